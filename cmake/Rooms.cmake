@@ -1,0 +1,26 @@
+# A room is one folder of the house and one static library, logchecker_<room>. Its plain half uses the
+# standard library and the rooms below it, nothing else; USES names those rooms.
+
+add_library(logchecker_flags INTERFACE)
+target_include_directories(logchecker_flags INTERFACE "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/generated")
+# Sums are rounded to single precision at each step, so no multiplication may be fused into one.
+target_compile_options(logchecker_flags INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-qual
+  -Wimplicit-fallthrough -Werror -ffp-contract=off)
+if(LOGCHECKER_SANITIZE)
+  target_compile_options(logchecker_flags INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(logchecker_flags INTERFACE -fsanitize=address,undefined)
+endif()
+if(WIN32)
+  target_link_options(logchecker_flags INTERFACE -static)
+endif()
+
+function(add_room name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(logchecker_${name} STATIC ${ROOM_SOURCES})
+  target_link_libraries(logchecker_${name} PUBLIC logchecker_flags)
+  foreach(room IN LISTS ROOM_USES)
+    target_link_libraries(logchecker_${name} PUBLIC logchecker_${room})
+  endforeach()
+endfunction()

@@ -1,0 +1,36 @@
+// Keys of sectioned text files ("profile files").
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace logchecker {
+
+// A bare file name means the Windows folder. Section and key names compare without regard to case,
+// and the first match wins. A file that can't be read counts as empty.
+class ProfileFiles {
+ public:
+  virtual ~ProfileFiles() = default;
+
+  // The value without blanks around it and without one pair of quotes, cut to `bufferSize` - 1
+  // bytes; `defaultValue` (without trailing blanks) where the key is missing.
+  virtual std::string GetString(const std::string& section, const std::string& key,
+                                const std::string& defaultValue, int32_t bufferSize,
+                                const std::string& file) = 0;
+
+  // The whole number at the start of the value: a sign, then decimal digits, or hexadecimal ones
+  // after 0x. Letters give 0, a missing or empty value gives `defaultValue`, and a number of more
+  // than 32 bits keeps its low 32.
+  virtual int32_t GetInt(const std::string& section, const std::string& key, int32_t defaultValue,
+                         const std::string& file) = 0;
+
+  // Writes one key, making file and section where they are missing. All other lines stay. The file
+  // is written whole or not at all. Returns an error number.
+  virtual int32_t WriteString(const std::string& section, const std::string& key,
+                              const std::string& value, const std::string& file) = 0;
+  virtual int32_t DeleteKey(const std::string& section, const std::string& key,
+                            const std::string& file) = 0;
+  virtual int32_t DeleteSection(const std::string& section, const std::string& file) = 0;
+};
+
+}  // namespace logchecker
