@@ -1,0 +1,63 @@
+#include "common/FileHelpers.h"
+
+#include <algorithm>
+
+#include "common/DatePicture.h"
+#include "common/ErrorState.h"
+#include "platform/Platform.h"
+
+namespace logchecker {
+
+double GetFileLength(const std::string& path) {
+  int64_t length = -1;
+  return Os().files.FileLength(path, &length) == kNoError ? static_cast<double>(length) : -1;
+}
+
+bool FileCanBeOpened(const std::string& path) { return Os().files.ProbeFile(path) == kNoError; }
+
+void AppendToLogFile(const std::string& path, bool stamped, const std::string& text) {
+  if (path.empty()) return;
+  std::string line = text + "\r\n";
+  if (stamped) {
+    line.insert(0, FormatDate(Os().clock.Now(), "ddddd hh:nn:ss").value_or("") + " ");
+  }
+  Files& files = Os().files;
+  int16_t number = 0;
+  if (files.FreeFile(&number) != kNoError) return;
+  if (files.OpenForAppend(number, path) == kNoError) files.Write(number, line);
+  files.Close(number);
+}
+
+void ReadTextLine(int16_t fileNumber, std::string& line) {
+  line.clear();
+  if (fileNumber <= 0) return;
+  Files& files = Os().files;
+  bool atEnd = false;
+  while (!atEnd) {
+    std::string_view bytes;
+    const bool failed = !Succeeded(files.Peek(fileNumber, &bytes));
+    atEnd = failed || bytes.empty();
+    const size_t lineFeed = bytes.find('\n');
+    line.append(bytes.substr(0, lineFeed));
+    if (lineFeed != std::string_view::npos) {
+      files.Skip(fileNumber, lineFeed + 1);
+      break;
+    }
+    files.Skip(fileNumber, bytes.size());
+  }
+  if (atEnd && !line.empty()) line.pop_back();
+  line.erase(std::remove(line.begin(), line.end(), '\r'), line.end());
+}
+
+std::string ReadTextLine(int16_t fileNumber) {
+  std::string line;
+  ReadTextLine(fileNumber, line);
+  return line;
+}
+
+std::string GetWindowsFolder() {
+  constexpr size_t kBufferLength = 145;
+  return Os().system.WindowsFolder().substr(0, kBufferLength - 1);
+}
+
+}  // namespace logchecker

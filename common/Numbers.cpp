@@ -1,0 +1,115 @@
+#include "common/Numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+namespace logchecker {
+
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// The characters of the number at the start of a text, one by one, with the blanks between them
+// passed over.
+class Reader {
+ public:
+  explicit Reader(std::string_view text) : text_(text) { SkipBlanks(); }
+
+  char Peek() const { return text_.empty() ? '\0' : text_.front(); }
+  void Next() {
+    text_.remove_prefix(1);
+    SkipBlanks();
+  }
+
+ private:
+  void SkipBlanks() {
+    while (!text_.empty() && text_.front() == ' ') text_.remove_prefix(1);
+  }
+
+  std::string_view text_;
+};
+
+// Moves the digits at the reader into `number` as far as there is room; true if there was one.
+struct Digits {
+  char* next;
+  char* end;
+
+  void Add(char c) {
+    if (next < end) *next++ = c;
+  }
+  bool Take(Reader& reader) {
+    bool any = false;
+    for (; IsDigit(reader.Peek()); reader.Next()) {
+      Add(reader.Peek());
+      any = true;
+    }
+    return any;
+  }
+};
+
+}  // namespace
+
+double Val(std::string_view text) {
+  // Longer numbers than this are cut: what is left is far beyond the precision of the result.
+  char number[512];
+  Digits digits{number, number + sizeof number};
+  Reader reader(text);
+  if (reader.Peek() == '-') digits.Add('-');
+  if (reader.Peek() == '-' || reader.Peek() == '+') reader.Next();
+  bool any = digits.Take(reader);
+  if (reader.Peek() == '.') {
+    reader.Next();
+    digits.Add('.');
+    any = digits.Take(reader) || any;
+  }
+  if (!any) return 0;
+  bool towardsZero = false;
+  if (reader.Peek() == 'E' || reader.Peek() == 'e') {
+    char* const mark = digits.next;
+    reader.Next();
+    digits.Add('e');
+    towardsZero = reader.Peek() == '-';
+    if (towardsZero) digits.Add('-');
+    if (towardsZero || reader.Peek() == '+') reader.Next();
+    if (!digits.Take(reader)) digits.next = mark;
+  }
+  double value = 0;
+  const auto result = std::from_chars(number, digits.next, value);
+  if (result.ec == std::errc::result_out_of_range && !towardsZero) {
+    return std::numeric_limits<double>::infinity();
+  }
+  return value;
+}
+
+double RoundHalfEven(double value) {
+  const double below = std::floor(value);
+  const double part = value - below;
+  if (part < 0.5) return below;
+  if (part > 0.5) return below + 1;
+  return std::fmod(below, 2) == 0 ? below : below + 1;
+}
+
+namespace {
+
+template <typename Integer>
+Integer RoundInto(double value) {
+  const double rounded = RoundHalfEven(value);
+  const bool fits = rounded >= static_cast<double>(std::numeric_limits<Integer>::min()) &&
+                    rounded <= static_cast<double>(std::numeric_limits<Integer>::max());
+  return fits ? static_cast<Integer>(rounded) : Integer{0};
+}
+
+}  // namespace
+
+int32_t ToInt32(double value) { return RoundInto<int32_t>(value); }
+
+int16_t ToInt16(double value) { return RoundInto<int16_t>(value); }
+
+int16_t ClampToInt16(int32_t value) {
+  constexpr int32_t kLeast = std::numeric_limits<int16_t>::min();
+  constexpr int32_t kMost = std::numeric_limits<int16_t>::max();
+  return static_cast<int16_t>(value < kLeast ? kLeast : (value > kMost ? kMost : value));
+}
+
+}  // namespace logchecker

@@ -1,0 +1,93 @@
+#include "platform/posix/ProfileStore.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <ctime>
+#include <map>
+
+#include "platform/ErrorNumbers.h"
+#include "platform/posix/Replacement.h"
+
+namespace logchecker {
+
+namespace {
+
+// A settings file is some kilobytes long; one far beyond that is no settings file.
+constexpr off_t kLongestProfile = off_t{16} * 1024 * 1024;
+// A file that changed less than this many seconds ago can change again under the same time stamp.
+constexpr time_t kStampSeconds = 2;
+
+struct Known {
+  struct stat facts {};
+  bool settled = false;
+  ProfileText text;
+};
+
+bool Unchanged(const struct stat& a, const struct stat& b) {
+  return a.st_dev == b.st_dev && a.st_ino == b.st_ino && a.st_size == b.st_size &&
+         a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec &&
+         a.st_ctim.tv_sec == b.st_ctim.tv_sec && a.st_ctim.tv_nsec == b.st_ctim.tv_nsec;
+}
+
+std::map<std::string, Known>& KnownProfiles() {
+  static std::map<std::string, Known> known;
+  return known;
+}
+
+bool ReadBytes(const std::string& hostPath, std::string* bytes) {
+  bytes->clear();
+  const int file = open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) return false;
+  struct stat facts {};
+  bool whole = fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) && facts.st_size <= kLongestProfile;
+  char part[16384];
+  while (whole) {
+    const ssize_t count = read(file, part, sizeof part);
+    if (count < 0 && errno == EINTR) continue;
+    if (count == 0) break;
+    whole = count > 0 && static_cast<off_t>(bytes->size()) <= kLongestProfile;
+    if (whole) bytes->append(part, static_cast<size_t>(count));
+  }
+  close(file);
+  return whole;
+}
+
+}  // namespace
+
+const ProfileText& ReadProfile(const std::string& hostPath) {
+  Known& known = KnownProfiles()[hostPath];
+  struct stat facts {};
+  if (stat(hostPath.c_str(), &facts) != 0) {
+    known = Known();
+    return known.text;
+  }
+  if (known.settled && Unchanged(known.facts, facts)) return known.text;
+  std::string bytes;
+  known.text = ReadBytes(hostPath, &bytes) ? ProfileText(bytes) : ProfileText();
+  known.facts = facts;
+  known.settled = facts.st_mtim.tv_sec + kStampSeconds < std::time(nullptr) &&
+                  facts.st_ctim.tv_sec + kStampSeconds < std::time(nullptr);
+  return known.text;
+}
+
+bool ReadProfileForChange(const std::string& hostPath, ProfileText* text) {
+  std::string bytes;
+  if (ReadBytes(hostPath, &bytes)) {
+    *text = ProfileText(bytes);
+    return true;
+  }
+  struct stat facts {};
+  const bool missing = stat(hostPath.c_str(), &facts) != 0 && errno == ENOENT;
+  *text = ProfileText();
+  return missing || S_ISCHR(facts.st_mode);
+}
+
+int32_t WriteProfile(const std::string& hostPath, const ProfileText& text) {
+  KnownProfiles().erase(hostPath);
+  return ReplaceFile(hostPath, text.Bytes());
+}
+
+}  // namespace logchecker

@@ -1,0 +1,80 @@
+#include "platform/posix/StationPath.h"
+
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdlib>
+
+#include "platform/StationText.h"
+#include "platform/posix/FolderNames.h"
+
+namespace logchecker {
+
+namespace {
+
+std::string& WindowsFolderSlot() {
+  static std::string folder = [] {
+    const char* config = std::getenv("XDG_CONFIG_HOME");
+    if (config != nullptr && config[0] == '/') return std::string(config) + "/velmar";
+    const char* home = std::getenv("HOME");
+    return std::string(home == nullptr ? "" : home) + "/.config/velmar";
+  }();
+  return folder;
+}
+
+bool Exists(const std::string& path) {
+  struct stat facts {};
+  return lstat(path.c_str(), &facts) == 0;
+}
+
+// The path with "/" throughout and the drive or share replaced by its folder.
+std::string WithoutDrive(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  if (path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0])) != 0) {
+    const char drive =
+        static_cast<char>(std::tolower(static_cast<unsigned char>(path[0])));
+    std::string rest = path.substr(2);
+    if (!rest.empty() && rest[0] != '/') rest.insert(0, "/");
+    return HostWindowsFolder() + "/drives/" + drive + rest;
+  }
+  if (path.size() > 2 && path[0] == '/' && path[1] == '/' && path[2] != '/') {
+    return HostWindowsFolder() + "/drives/unc" + path.substr(1);
+  }
+  return path;
+}
+
+}  // namespace
+
+const std::string& HostWindowsFolder() { return WindowsFolderSlot(); }
+
+void SetHostWindowsFolder(const std::string& folder) { WindowsFolderSlot() = folder; }
+
+bool FindName(const std::string& hostFolder, const std::string& name, std::string* found) {
+  const std::string folder = hostFolder.empty() ? "." : hostFolder;
+  if (Exists(folder + "/" + name)) {
+    *found = name;
+    return true;
+  }
+  return FindFoldedName(folder, name, found);
+}
+
+std::string HostPath(std::string_view stationPath) {
+  const std::string path = WithoutDrive(ToUtf8(stationPath));
+  if (path.empty() || Exists(path)) return path;
+  std::string result = path[0] == '/' ? "/" : "";
+  size_t begin = path.find_first_not_of('/');
+  while (begin != std::string::npos) {
+    size_t end = path.find('/', begin);
+    if (end == std::string::npos) end = path.size();
+    std::string name = path.substr(begin, end - begin);
+    if (!FindName(result, name, &name)) return result + path.substr(begin);
+    result += name;
+    const size_t next = path.find_first_not_of('/', end);
+    if (end < path.size()) result += '/';
+    begin = next;
+  }
+  return result;
+}
+
+}  // namespace logchecker
