@@ -1,0 +1,55 @@
+#include "platform/windows/WindowsDates.h"
+#include "platform/windows/WindowsErrors.h"
+#include "platform/windows/WindowsFile.h"
+#include "platform/windows/WindowsParts.h"
+
+namespace logchecker {
+
+namespace {
+
+class SystemFiles : public FileTable {
+ public:
+  int32_t FileLength(const std::string& path, int64_t* length) override {
+    WIN32_FILE_ATTRIBUTE_DATA facts;
+    if (!GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &facts))
+      return LastErrorNumber();
+    if ((facts.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return kFileNotFound;
+    *length = static_cast<int64_t>((uint64_t{facts.nFileSizeHigh} << 32) | facts.nFileSizeLow);
+    return kNoError;
+  }
+
+  int32_t FileDateTime(const std::string& path, double* dateTime) override {
+    WIN32_FILE_ATTRIBUTE_DATA facts;
+    SYSTEMTIME universal;
+    SYSTEMTIME local;
+    if (!GetFileAttributesExA(path.c_str(), GetFileExInfoStandard, &facts) ||
+        !FileTimeToSystemTime(&facts.ftLastWriteTime, &universal) ||
+        !SystemTimeToTzSpecificLocalTime(nullptr, &universal, &local))
+      return LastErrorNumber();
+    *dateTime = DateNumberOf(local);
+    return kNoError;
+  }
+
+  int32_t ProbeFile(const std::string& path) override {
+    const HANDLE handle = CreateFileA(path.c_str(), 0, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                      OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return OpenErrorNumber(path);
+    CloseHandle(handle);
+    return kNoError;
+  }
+
+ protected:
+  int32_t OpenHost(HostMode mode, const std::string& path,
+                   std::unique_ptr<HostFile>* file) override {
+    return OpenWindowsFile(mode, path, file);
+  }
+};
+
+}  // namespace
+
+Files& WindowsFiles() {
+  static SystemFiles files;
+  return files;
+}
+
+}  // namespace logchecker

@@ -1,0 +1,12 @@
+#include "platform/windows/WindowsParts.h"
+
+namespace logchecker {
+
+Platform& RealPlatform() {
+  static Platform platform{WindowsFiles(),        WindowsDirectories(), WindowsShell(),
+                           WindowsProfileFiles(), WindowsRegistry(),    WindowsClock(),
+                           WindowsWaveDevices(),  WindowsSystemFacts()};
+  return platform;
+}
+
+}  // namespace logchecker

@@ -1,0 +1,59 @@
+#include "platform/windows/WindowsApi.h"
+#include "platform/windows/WindowsErrors.h"
+#include "platform/windows/WindowsParts.h"
+
+namespace logchecker {
+
+namespace {
+
+// A missing value deletes the key, a missing key the section.
+int32_t Write(const std::string& section, const char* key, const char* value,
+              const std::string& file) {
+  const std::string path = ProfilePath(file);
+  return WritePrivateProfileStringA(section.c_str(), key, value, path.c_str()) ? kNoError
+                                                                               : LastErrorNumber();
+}
+
+class SystemProfileFiles : public ProfileFiles {
+ public:
+  std::string GetString(const std::string& section, const std::string& key,
+                        const std::string& defaultValue, int32_t bufferSize,
+                        const std::string& file) override {
+    if (bufferSize < 1) return {};
+    std::string value(static_cast<size_t>(bufferSize), '\0');
+    const DWORD length =
+        GetPrivateProfileStringA(section.c_str(), key.c_str(), defaultValue.c_str(), value.data(),
+                                 static_cast<DWORD>(bufferSize), ProfilePath(file).c_str());
+    value.resize(length);
+    return value;
+  }
+
+  int32_t GetInt(const std::string& section, const std::string& key, int32_t defaultValue,
+                 const std::string& file) override {
+    return static_cast<int32_t>(GetPrivateProfileIntA(section.c_str(), key.c_str(), defaultValue,
+                                                      ProfilePath(file).c_str()));
+  }
+
+  int32_t WriteString(const std::string& section, const std::string& key, const std::string& value,
+                      const std::string& file) override {
+    return Write(section, key.c_str(), value.c_str(), file);
+  }
+
+  int32_t DeleteKey(const std::string& section, const std::string& key,
+                    const std::string& file) override {
+    return Write(section, key.c_str(), nullptr, file);
+  }
+
+  int32_t DeleteSection(const std::string& section, const std::string& file) override {
+    return Write(section, nullptr, nullptr, file);
+  }
+};
+
+}  // namespace
+
+ProfileFiles& WindowsProfileFiles() {
+  static SystemProfileFiles profiles;
+  return profiles;
+}
+
+}  // namespace logchecker
