@@ -33,7 +33,9 @@ constexpr NumberedText kTexts[] = {
 
 ErrorState gErrorState;
 
-void ClearError() { gErrorState = ErrorState(); }
+void ClearError() {
+  if (gErrorState.Number != kNoError) gErrorState = ErrorState();
+}
 
 bool Succeeded(int32_t error) {
   if (error == kNoError) return true;

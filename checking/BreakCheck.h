@@ -1,0 +1,45 @@
+// The comparison of the breaks of a day across all active splits. The results window is a face of it.
+#pragma once
+
+#include <cstdint>
+
+#include "common/ListView.h"
+
+namespace logchecker {
+
+struct ProgressBar {
+  int32_t Max = 1;
+  int32_t Value = 0;
+};
+
+class BreakCheck {
+ public:
+  // Gives lvwResults its columns: "Time" and one for each active split. Done once, when the results
+  // are first wanted; a later check keeps them.
+  void BuildColumns();
+
+  // Walks the break times of all active splits in ascending order and adds a row to lvwResults for
+  // each at which a split has no break, or the lengths differ by more than the tolerance. A row's key
+  // is "t" and its time in seconds. Reads the grids of the loaded logs and, anew, the cart store.
+  //
+  // A break at 00:00 is passed over. When every loaded split begins there, one row with the time
+  // "--:--" is all that comes of the day: this is meant.
+  void CheckBreaks();
+
+  ListView lvwResults;
+  ProgressBar ProgressBar1;
+  bool cmdPrintEnabled = false;
+  bool cmdSaveEnabled = false;
+  bool picNoResultsVisible = false;
+
+ private:
+  bool PrepareProgress();
+  void ShowProgress(int32_t value);
+  void Walk();
+  void AddRow(float time, const struct BreaksAtATime& breaks);
+};
+
+// The time in seconds that a row's key stands for.
+float TimeOfResultKey(const std::string& key);
+
+}  // namespace logchecker

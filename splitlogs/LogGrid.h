@@ -1,0 +1,110 @@
+// gridLog: the cells of a split's log, with a current row, a top row, a selection and cell colours. It
+// is the one model of a loaded log; a window shows it.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "common/ListView.h"
+#include "splitlogs/BreakTimeIndex.h"
+
+namespace logchecker {
+
+enum LogColumn : int32_t {
+  kTimeColumn = 0,         // hours and minutes, on the first row of a break
+  kDescriptionColumn = 1,
+  kReferenceColumn = 2,
+  kCartColumn = 3,
+  kLengthColumn = 4,
+  kPositionColumn = 5,  // not empty on the rows that belong to a break, and on no other
+};
+inline constexpr int32_t kLogColumns = 6;
+
+// Heading, width in twips as set at load, alignment.
+extern const std::array<ColumnHeader, kLogColumns> kLogColumnHeaders;
+
+inline constexpr int32_t kGridOwnColour = -1;
+inline constexpr int32_t kRed = 255;  // 0x00BBGGRR
+inline constexpr int32_t kWhite = 0xFFFFFF;
+
+// Who shows the grid. Told of each change while the grid paints, and once of all when it paints again.
+class LogGridObserver {
+ public:
+  virtual ~LogGridObserver() = default;
+  virtual void GridChanged() = 0;
+  virtual void SelectionChanged() = 0;
+};
+
+// Row 0 is the header. A row or column that does not exist stops the program with error 30009.
+class LogGrid {
+ public:
+  LogGrid();
+
+  // Row count, the header included; at least 1. New rows are empty. The current row, the selection
+  // and the top row stay inside.
+  int32_t Rows() const { return static_cast<int32_t>(rows_.size()); }
+  void SetRows(int32_t rows);
+
+  const std::string& Text(int32_t row, int32_t column) const;
+  void SetText(int32_t row, int32_t column, std::string text);
+  int32_t BackColour(int32_t row, int32_t column) const;
+
+  // The current cell. Making a row current makes it the whole selection.
+  int32_t Row() const { return row_; }
+  void SetRow(int32_t row);
+  int32_t Column() const { return column_; }
+  void SetColumn(int32_t column);
+  // Of the current cell.
+  void SetCellText(std::string text) { SetText(row_, column_, std::move(text)); }
+  void SetCellBackColour(int32_t colour);
+
+  // The selection runs from the current cell to here.
+  int32_t SelectionEndRow() const { return selectionEndRow_; }
+  int32_t SelectionEndColumn() const { return selectionEndColumn_; }
+  void SetSelectionEndRow(int32_t row);
+  void SetSelectionEndColumn(int32_t column);
+
+  // The first row below the header that is in view.
+  int32_t TopRow() const { return topRow_; }
+  void SetTopRow(int32_t row);
+
+  // Holds painting back while false.
+  bool Redraw() const { return redraw_; }
+  void SetRedraw(bool redraw);
+  void SetObserver(LogGridObserver* observer) { observer_ = observer; }
+
+  // Whether the row belongs to a break.
+  bool IsAdvertRow(int32_t row) const;
+  // The time that column 0 of the row gives, in seconds: whole minutes, 0 for an empty cell.
+  float RowTime(int32_t row) const;
+  // The first row from 1 on with this very time, or with this or a later one; 0 for none.
+  int32_t FirstRowAt(float seconds) const { return times_.FirstAt(seconds); }
+  int32_t FirstRowAtOrAfter(float seconds) const { return times_.FirstAtOrAfter(seconds); }
+
+ private:
+  struct GridRow {
+    std::array<std::string, kLogColumns> texts;
+    std::array<int32_t, kLogColumns> backColours;
+
+    GridRow() { backColours.fill(kGridOwnColour); }
+  };
+
+  void RequireRow(int32_t row) const;
+  static void RequireColumn(int32_t column);
+  void TellChange();
+  void TellSelection();
+
+  std::vector<GridRow> rows_;
+  BreakTimeIndex times_;
+  int32_t row_ = 0;
+  int32_t column_ = 0;
+  int32_t selectionEndRow_ = 0;
+  int32_t selectionEndColumn_ = 0;
+  int32_t topRow_ = 0;
+  bool redraw_ = true;
+  LogGridObserver* observer_ = nullptr;
+};
+
+}  // namespace logchecker

@@ -1,0 +1,174 @@
+#include "splitlogs/SplitLog.h"
+
+#include <algorithm>
+
+#include "cartstore/LoadCartInfo.h"
+#include "common/ErrorState.h"
+#include "common/FileHelpers.h"
+#include "common/GeneralSettings.h"
+#include "common/Numbers.h"
+#include "common/TextHelpers.h"
+#include "common/TimeText.h"
+#include "common/UserInterface.h"
+#include "platform/Platform.h"
+#include "splitlogs/AdvertLog_FN.h"
+#include "splitlogs/KLT_Common.h"
+#include "splitlogs/SplitSettings.h"
+
+namespace logchecker {
+
+namespace {
+
+constexpr int32_t kRowsAtFirst = 1440;
+constexpr int32_t kRowsToGrowBy = 100;
+constexpr size_t kTimeTextLength = 5;  // of "06:00"
+
+// Puts the lines of one log into the grid, row by row.
+class GridFiller {
+ public:
+  GridFiller(LogGrid& grid, const std::string& chainCode) : grid_(grid), chainCode_(chainCode) {}
+
+  int32_t row() const { return row_; }
+
+  // The grid grows only once the row is beyond its count: a row that equals it stops the program,
+  // whatever the line that comes there. This is meant.
+  void PrepareRow() {
+    if (row_ > grid_.Rows()) grid_.SetRows(grid_.Rows() + kRowsToGrowBy);
+    grid_.SetRow(row_);
+  }
+
+  // `position` is where the line began in the file, counted from 1.
+  void Add(const std::string& line, int64_t position) {
+    if (Trim(line).empty()) {
+      EndBreak();
+    } else if (chainCode_.empty() || GetLineTXChainCode(line) == chainCode_) {
+      AddAdvert(line, position);
+    }
+  }
+
+ private:
+  void AddAdvert(const std::string& line, int64_t position) {
+    grid_.SetText(row_, kPositionColumn, std::to_string(position));
+    if (!inBreak_) {
+      inBreak_ = true;
+      grid_.SetText(row_, kTimeColumn,
+                    FormatTimeDisplay(GetLineTime(line), kMaskHoursMinutesSeconds)
+                        .substr(0, kTimeTextLength));
+    }
+    grid_.SetText(row_, kDescriptionColumn, GetLineDescription(line));
+    const int32_t cart = GetLineCart(line);
+    grid_.SetText(row_, kCartColumn, std::to_string(cart));
+    grid_.SetText(row_, kReferenceColumn, GetLineReference(line));
+    CartInfo info;
+    LoadCartInfo(info, cart);
+    grid_.SetColumn(kLengthColumn);
+    if (info.PlayLength > 0) {
+      grid_.SetCellBackColour(kWhite);
+      grid_.SetCellText(
+          FormatLengthDisplay(info.Length, LengthMask(gGeneralSettings.DisplayAdvertHH)));
+      breakTotal_ += info.Length;
+    } else {
+      grid_.SetCellBackColour(kRed);
+      grid_.SetCellText(kNoTimeText);
+    }
+    ++row_;
+  }
+
+  void EndBreak() {
+    grid_.SetText(row_, kPositionColumn, "");
+    if (!inBreak_) return;
+    grid_.SetText(row_, kLengthColumn,
+                  breakTotal_ > 0 ? FormatLengthDisplay(
+                                        breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH))
+                                  : kNoTimeText);
+    row_ += 2;
+    breakTotal_ = 0;
+    inBreak_ = false;
+  }
+
+  LogGrid& grid_;
+  const std::string& chainCode_;
+  int32_t row_ = 1;
+  bool inBreak_ = false;
+  float breakTotal_ = 0;  // seconds, rounded to single precision at each addition
+};
+
+// Holds back the grid's painting for as long as it lives.
+class PaintingHeldBack {
+ public:
+  explicit PaintingHeldBack(LogGrid& grid) : grid_(grid) { grid_.SetRedraw(false); }
+  PaintingHeldBack(const PaintingHeldBack&) = delete;
+  PaintingHeldBack& operator=(const PaintingHeldBack&) = delete;
+  ~PaintingHeldBack() { grid_.SetRedraw(true); }
+
+ private:
+  LogGrid& grid_;
+};
+
+void RequireSuccess(int32_t error) {
+  if (!Succeeded(error)) throw RunTimeError(error, "");
+}
+
+}  // namespace
+
+SplitLog::SplitLog() = default;
+SplitLog::~SplitLog() = default;
+
+void SplitLog::SetSplitNumberLabel(const std::string& text) {
+  splitNumberLabel_ = text;
+  splitNumber_ = std::max(ToInt16(Val(text)), int16_t{1});
+  UpdateInfo();
+}
+
+void SplitLog::UpdateInfo() {
+  caption_ = SettingsOf(splitNumber_).SplitName;
+  CaptionChanged();
+}
+
+void SplitLog::CaptionChanged() {}
+
+void SplitLog::LoadLogFile() {
+  const SplitSettings& settings = SettingsOf(splitNumber_);
+  const std::string path = GetLogSourcePath(splitNumber_, settings.LogDate, false);
+  OpenLogFile(splitNumber_, path);
+  gridLog.SetRows(1);
+  if (settings.LogFileNumber == 0) return;
+  const PaintingHeldBack heldBack(gridLog);
+  const BusyPointer busy;
+  try {
+    FillGrid();
+  } catch (const RunTimeError& error) {
+    const std::string where = error.concerning().empty() ? "" : ", " + error.concerning();
+    throw RunTimeError(error.number(), "split " + std::to_string(splitNumber_) + " \"" +
+                                           settings.SplitName + "\", " + settings.CurrentLogPath +
+                                           where);
+  }
+}
+
+void SplitLog::FillGrid() {
+  const SplitSettings& settings = SettingsOf(splitNumber_);
+  const int16_t file = settings.LogFileNumber;
+  Files& files = Os().files;
+  RequireSuccess(files.Seek(file, 1));
+  gridLog.SetRows(kRowsAtFirst);
+  GridFiller filler(gridLog, settings.LogTXChainCode);
+  std::string line;
+  while (true) {
+    bool atEnd = false;
+    RequireSuccess(files.EndOfFile(file, &atEnd));
+    if (atEnd) break;
+    filler.PrepareRow();
+    int64_t position = 0;
+    RequireSuccess(files.Position(file, &position));
+    ClearError();
+    ReadTextLine(file, line);
+    // A log of which a part can't be read must not pass for a short one.
+    RequireSuccess(gErrorState.Number);
+    filler.Add(line, position);
+  }
+  gridLog.SetRows(filler.row());
+}
+
+bool SplitLog::CheckForNewLogFile(int32_t /*input*/, int32_t& /*output*/) const { return false; }
+
+}  // namespace logchecker

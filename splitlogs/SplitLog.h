@@ -1,0 +1,78 @@
+// One split's log: loads it into the grid, and finds breaks there. The split's window is a face of it.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "splitlogs/LogGrid.h"
+
+namespace logchecker {
+
+// The program's true. A flag of 16 bits counts as true at this value alone where it says so.
+inline constexpr int16_t kTrue = -1;
+inline constexpr int16_t kFalse = 0;
+
+class SplitLog {
+ public:
+  SplitLog();
+  SplitLog(const SplitLog&) = delete;
+  SplitLog& operator=(const SplitLog&) = delete;
+  virtual ~SplitLog();
+
+  int16_t SplitNumber() const { return splitNumber_; }
+  const std::string& Caption() const { return caption_; }
+
+  // The text of the hidden label that names the split. Setting it makes its number, at least 1, the
+  // split's number and brings the caption in line.
+  const std::string& SplitNumberLabel() const { return splitNumberLabel_; }
+  void SetSplitNumberLabel(const std::string& text);
+
+  // Sets the caption to the split's name.
+  void UpdateInfo();
+
+  // Refills the grid from the log of the split's LogDate. With no log ever opened the grid stays
+  // empty; where the day has no log but an older one is open, the older one is shown again: this is
+  // meant. Stops the program when the log that is set can't be read, or when a line meets a row that
+  // equals the row count.
+  void LoadLogFile();
+
+  // Puts the selection on the whole break at `seconds`, or on the next one after it, at the top of the
+  // window; on the header when there is none.
+  void SelectBreakByTime(float seconds);
+
+  // The first row, from row 1 on, whose time is `seconds`; with `nextIfMissing` at -1, and at no other
+  // value, the first whose time is that or a later one. 0 for none. A row with an empty column 0 has
+  // the time 0.
+  void FindBreakByTime(float seconds, int16_t nextIfMissing, int32_t& row) const;
+
+  // The first row of the break that `row` is in or below. In the first break of the grid, which has no
+  // gap above it, `row` itself: this is meant, and such a row leads to row 1 through its time 0.
+  void FindBeginningofBreak(int32_t row, int32_t& firstRow) const;
+
+  // The last advert row of the break that begins at or goes on behind `row`.
+  void FindEndofBreak(int32_t row, int32_t& lastRow) const;
+
+  // The first row of the next break, or `row` if there is none.
+  void FindNextBreak(int32_t row, int32_t& nextRow) const;
+
+  // The time of a break's first row, in seconds.
+  void GetBreakTimeByRow(int32_t row, float& seconds) const;
+
+  // Nothing watches for new logs: false, with `output` as it was.
+  bool CheckForNewLogFile(int32_t input, int32_t& output) const;
+
+  LogGrid gridLog;
+
+ protected:
+  // Called when the caption has changed.
+  virtual void CaptionChanged();
+
+ private:
+  void FillGrid();
+
+  int16_t splitNumber_ = 0;
+  std::string splitNumberLabel_;
+  std::string caption_ = "Velmar Split";
+};
+
+}  // namespace logchecker
