@@ -1,5 +1,7 @@
 #include "platform/posix/ProfileText.h"
 
+#include <algorithm>
+
 #include "platform/StationText.h"
 
 namespace logchecker {
@@ -48,12 +50,10 @@ ProfileText::Line ProfileText::ParseLine(std::string_view bytes) {
   const std::string_view text = TrimBlanks(bytes);
   if (text.empty() || text.front() == ';') return line;
   if (text.front() == '[') {
-    const size_t close = text.rfind(']');
-    if (close != std::string_view::npos) {
-      line.isSection = true;
-      line.name = ToUpper(TrimBlanks(text.substr(1, close - 1)));
-      return line;
-    }
+    // The name ends at the first bracket, or with the line where there is none.
+    line.isSection = true;
+    line.name = ToUpper(TrimBlanks(text.substr(1, text.find(']') - 1)));
+    return line;
   }
   const size_t equals = text.find('=');
   if (equals == std::string_view::npos) return line;
@@ -99,8 +99,13 @@ void ProfileText::EndLastLine() {
 
 void ProfileText::Set(const std::string& section, const std::string& key,
                       const std::string& value) {
-  const Line line = ParseLine(std::string(TrimBlanks(key)) + "=" + value + lineEnd_);
   const size_t present = KeyLine(section, key);
+  // A key that is there keeps its spelling.
+  const std::string_view name =
+      present == kNone
+          ? std::string_view(key)
+          : std::string_view(lines_[present].bytes).substr(0, lines_[present].bytes.find('='));
+  const Line line = ParseLine(std::string(TrimBlanks(name)) + "=" + value + lineEnd_);
   if (present != kNone) {
     lines_[present] = line;
   } else {
@@ -134,8 +139,15 @@ void ProfileText::DeleteSection(const std::string& section) {
   if (first == kNone) return;
   size_t last = first + 1;
   while (last < lines_.size() && !lines_[last].isSection) ++last;
-  lines_.erase(lines_.begin() + static_cast<std::ptrdiff_t>(first),
-               lines_.begin() + static_cast<std::ptrdiff_t>(last));
+  // Comments stay: they may well be about the section that follows.
+  const auto begin = lines_.begin() + static_cast<std::ptrdiff_t>(first);
+  const auto end = lines_.begin() + static_cast<std::ptrdiff_t>(last);
+  lines_.erase(std::remove_if(begin, end,
+                              [](const Line& line) {
+                                const std::string_view text = TrimBlanks(line.bytes);
+                                return text.empty() || text.front() != ';';
+                              }),
+               end);
   IndexLines();
 }
 

@@ -1,5 +1,5 @@
 #include "platform/windows/WindowsApi.h"
-#include "platform/windows/WindowsErrors.h"
+#include "platform/windows/WindowsFile.h"
 #include "platform/windows/WindowsParts.h"
 
 namespace logchecker {
@@ -10,8 +10,8 @@ namespace {
 int32_t Write(const std::string& section, const char* key, const char* value,
               const std::string& file) {
   const std::string path = ProfilePath(file);
-  return WritePrivateProfileStringA(section.c_str(), key, value, path.c_str()) ? kNoError
-                                                                               : LastErrorNumber();
+  if (WritePrivateProfileStringA(section.c_str(), key, value, path.c_str())) return kNoError;
+  return OpenErrorNumber(path);
 }
 
 class SystemProfileFiles : public ProfileFiles {
