@@ -20,8 +20,10 @@ bool EndsAsDirectory(const std::string& path) {
   return path.back() == '.' && (path.size() == 1 || IsSeparator(path[path.size() - 2]));
 }
 
-// The number of the call that has just failed, where what is missing is no error.
+// The number of the call that has just failed, where what is missing is no error. What is looked
+// for in a file instead of a folder counts as a bad name.
 int32_t UnlessMissing() {
+  if (GetLastError() == ERROR_INVALID_NAME) return kNoError;
   const int32_t error = LastErrorNumber();
   return error == kFileNotFound || error == kPathNotFound ? kNoError : error;
 }
@@ -54,7 +56,7 @@ class SystemDirectories : public Directories {
     // A drive's root is refused, not reported as taken.
     if (error == kPermissionDenied && GetFileAttributesA(path.c_str()) != INVALID_FILE_ATTRIBUTES)
       return kPathFileAccess;
-    return error;
+    return error == kFileNotFound ? kPathNotFound : error;
   }
 
   int32_t ChangeDrive(const std::string& path) override {
