@@ -180,6 +180,8 @@ void BreakCheck::Walk() {
 
 void BreakCheck::AddRow(float time, const BreaksAtATime& breaks) {
   ListItem row;
+  BreakMismatch mismatch;
+  mismatch.Time = time;
   row.key = KeyOfTime(time);
   row.text = FormatTimeDisplay(time, kMaskHoursMinutes);
   const int32_t mask = LengthMask(gGeneralSettings.DisplayCheckHH);
@@ -188,8 +190,10 @@ void BreakCheck::AddRow(float time, const BreaksAtATime& breaks) {
     const bool found = breaks.BreakTime[i] >= 0;
     row.ListSubItems.push_back(
         {found ? FormatLengthDisplay(breaks.BreakLength[i], mask) : kNotFound});
+    mismatch.Lengths.push_back({found, breaks.BreakLength[i]});
   }
   lvwResults.ListItems.push_back(std::move(row));
+  Mismatches.push_back(std::move(mismatch));
 }
 
 void BreakCheck::CheckBreaks() {
@@ -197,6 +201,7 @@ void BreakCheck::CheckBreaks() {
   cmdPrintEnabled = false;
   cmdSaveEnabled = false;
   lvwResults.ListItems.clear();
+  Mismatches.clear();
   if (PrepareProgress()) {
     Ui().SetMousePointer(MousePointer::kHourglass);
     Walk();

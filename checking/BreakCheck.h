@@ -2,6 +2,8 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
+#include <vector>
 
 #include "common/ListView.h"
 
@@ -10,6 +12,16 @@ namespace logchecker {
 struct ProgressBar {
   int32_t Max = 1;
   int32_t Value = 0;
+};
+
+// What a row of the results stands for; times and lengths in seconds, lengths by split.
+struct BreakMismatch {
+  float Time = 0;  // seconds
+  struct Length {
+    bool found = false;
+    float seconds = 0;
+  };
+  std::vector<Length> Lengths;
 };
 
 class BreakCheck {
@@ -27,6 +39,7 @@ class BreakCheck {
   void CheckBreaks();
 
   ListView lvwResults;
+  std::vector<BreakMismatch> Mismatches;  // in step with the rows of lvwResults
   ProgressBar ProgressBar1;
   bool cmdPrintEnabled = false;
   bool cmdSaveEnabled = false;

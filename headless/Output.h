@@ -1,0 +1,15 @@
+// Where a report goes.
+#pragma once
+
+#include <string>
+
+namespace logchecker {
+
+// Writes `bytes` to the file, whole or not at all, or to standard output with an empty path. "" on
+// success, otherwise one clear line.
+std::string WriteReport(const std::string& path, const std::string& bytes);
+
+// The text with tabs and other control characters as blanks, in UTF-8: one field of a line.
+std::string FieldText(const std::string& stationText);
+
+}  // namespace logchecker

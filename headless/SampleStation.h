@@ -1,0 +1,23 @@
+// A made-up station to try the program on, and, with sizes given, to measure it with.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "headless/CommandLine.h"
+
+namespace logchecker {
+
+struct SampleStation {
+  int32_t firstDay = 0;
+  int32_t days = 1;
+  SampleSizes sizes;
+};
+
+// Writes settings, cart store and logs into `folder`, which is to stand for the Windows folder. With
+// sizes given the store has part list files alone. Throws Trouble when a size would make a log that
+// stops the program, when the folder holds the settings of another station, and when something can't
+// be written.
+void WriteSampleStation(const std::string& folder, const SampleStation& station);
+
+}  // namespace logchecker

@@ -1,0 +1,97 @@
+// The reports that are tables: for people, and as CSV.
+#include <algorithm>
+
+#include "checking/ExportListViewToCSV.h"
+#include "common/DatePicture.h"
+#include "headless/Output.h"
+#include "headless/Reports.h"
+
+namespace logchecker {
+
+namespace {
+
+constexpr size_t kColumnGap = 2;
+
+std::vector<std::vector<std::string>> CellsOf(const ListView& list) {
+  std::vector<std::vector<std::string>> rows(1);
+  for (const ColumnHeader& header : list.ColumnHeaders) rows[0].push_back(header.text);
+  for (const ListItem& item : list.ListItems) {
+    std::vector<std::string> row = {item.text};
+    for (const ListSubItem& subItem : item.ListSubItems) row.push_back(subItem.text);
+    rows.push_back(std::move(row));
+  }
+  return rows;
+}
+
+// Columns as wide as their longest text, the lengths lined up on the right.
+std::string Table(const ListView& list) {
+  const std::vector<std::vector<std::string>> rows = CellsOf(list);
+  std::vector<size_t> widths(list.ColumnHeaders.size(), 0);
+  for (const auto& row : rows) {
+    for (size_t i = 0; i < row.size(); ++i) widths[i] = std::max(widths[i], row[i].size());
+  }
+  std::string table;
+  for (const auto& row : rows) {
+    std::string line = row[0] + std::string(widths[0] - row[0].size(), ' ');
+    for (size_t i = 1; i < row.size(); ++i) {
+      line += std::string(widths[i] - row[i].size() + kColumnGap, ' ') + row[i];
+    }
+    table += FieldText(line) + "\n";
+  }
+  return table;
+}
+
+std::string SilentAdvertLines(const SplitReport& split) {
+  std::string lines;
+  for (const SilentAdvert& advert : split.silentAdverts) {
+    if (lines.empty()) lines = "\n" + FieldText(split.name) + ": carts without audio\n";
+    std::string cart = std::to_string(advert.cart);
+    constexpr size_t kCartWidth = 6;
+    if (cart.size() < kCartWidth) cart.insert(0, kCartWidth - cart.size(), ' ');
+    lines += "  " + advert.time + "  " + cart + "  " + FieldText(advert.description) + "\n";
+  }
+  return lines;
+}
+
+std::string DayText(const DayReport& day) {
+  std::string text = FieldText(FormatDate(day.day, "dddd").value_or("")) + " " + IsoDate(day.day);
+  if (!day.trouble.empty()) return text + ": not checked\n";
+  const size_t count = day.results.ListItems.size();
+  if (count == 0) {
+    text += ": There were no problems found.\n";
+  } else {
+    text += ": " + std::to_string(count) +
+            (count == 1 ? " ad break did" : " ad breaks did") + " not match in all splits\n\n";
+    text += Table(day.results);
+  }
+  for (const SplitReport& split : day.splits) text += SilentAdvertLines(split);
+  return text;
+}
+
+}  // namespace
+
+std::string TextReport(const std::vector<DayReport>& days) {
+  std::string text;
+  for (const DayReport& day : days) text += (text.empty() ? "" : "\n") + DayText(day);
+  return text;
+}
+
+std::string CsvReport(const std::vector<DayReport>& days, bool withDate) {
+  std::string csv;
+  for (const DayReport& day : days) {
+    if (!day.trouble.empty()) continue;
+    ListView list = day.results;
+    if (withDate) list.ColumnHeaders.insert(list.ColumnHeaders.begin(), {"Date"});
+    if (csv.empty()) csv = CSVHeading(list, ",");
+    for (ListItem& row : list.ListItems) {
+      if (withDate) {
+        row.ListSubItems.insert(row.ListSubItems.begin(), {row.text});
+        row.text = IsoDate(day.day);
+      }
+      csv += CSVRow(list, row, ",");
+    }
+  }
+  return csv;
+}
+
+}  // namespace logchecker

@@ -1,0 +1,45 @@
+#include "headless/TerminalUi.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/StandardStreams.h"
+
+namespace logchecker {
+
+void WriteErrorLine(const std::string& text) {
+  std::string line = "logcheck: " + text;
+  std::replace_if(
+      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  WriteStandardError(line + "\n");
+}
+
+TerminalUi::TerminalUi(bool createMissing)
+    : createMissing_(createMissing),
+      onTerminal_(StandardErrorIsTerminal()),
+      before_(UseUserInterface(*this)) {}
+
+TerminalUi::~TerminalUi() { UseUserInterface(before_); }
+
+MessageAnswer TerminalUi::Show(const Message& message) {
+  if (message.buttons == MessageButtons::kOk) {
+    messages_.push_back(message.text);
+    return MessageAnswer::kOk;
+  }
+  if (createMissing_) return MessageAnswer::kYes;
+  messages_.push_back(message.text + " (--create-missing answers yes)");
+  return MessageAnswer::kCancel;
+}
+
+void TerminalUi::ShowProgress(int32_t value, int32_t maximum) {
+  if (!onTerminal_ || maximum < 1) return;
+  const int32_t percent = static_cast<int32_t>(int64_t{100} * value / maximum);
+  if (percent == shownPercent_) return;
+  shownPercent_ = percent;
+  const std::string text = percent == 0 ? "    " : std::to_string(percent) + " %";
+  WriteStandardError("\r" + text + "\r");
+}
+
+std::vector<std::string> TerminalUi::TakeMessages() { return std::exchange(messages_, {}); }
+
+}  // namespace logchecker

@@ -1,0 +1,33 @@
+#include "platform/StandardStreams.h"
+#include "platform/windows/WindowsApi.h"
+
+namespace logchecker {
+
+namespace {
+
+bool WriteWhole(DWORD stream, std::string_view bytes) {
+  constexpr size_t kMostAtOnce = size_t{1} << 20U;
+  const HANDLE handle = GetStdHandle(stream);
+  while (!bytes.empty()) {
+    const size_t size = bytes.size() < kMostAtOnce ? bytes.size() : kMostAtOnce;
+    DWORD written = 0;
+    if (WriteFile(handle, bytes.data(), static_cast<DWORD>(size), &written, nullptr) == 0) {
+      return false;
+    }
+    bytes.remove_prefix(written);
+  }
+  return true;
+}
+
+}  // namespace
+
+bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STD_OUTPUT_HANDLE, bytes); }
+
+void WriteStandardError(std::string_view stationText) { WriteWhole(STD_ERROR_HANDLE, stationText); }
+
+bool StandardErrorIsTerminal() {
+  DWORD mode = 0;
+  return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
+}
+
+}  // namespace logchecker

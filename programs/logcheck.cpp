@@ -1,0 +1,12 @@
+// The day's check for a script, a scheduler or a server.
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "headless/Logcheck.h"
+
+int main(int argc, char** argv) {
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  // Leaves at once: all files are closed by then, and what is left is memory.
+  std::_Exit(logchecker::RunLogcheck(arguments));
+}
