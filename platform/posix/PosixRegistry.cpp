@@ -101,12 +101,14 @@ int32_t PosixRegistry::OpenKey(uint32_t root, const std::string& subKey, bool /*
 }
 
 int32_t PosixRegistry::CreateKey(uint32_t root, const std::string& subKey, RegistryKey* key) {
-  const std::string section = SectionName(root, subKey);
-  if (ReadProfile(RegistryFile()).Find(section, kKeyMark) == nullptr) {
+  for (size_t end = 0; end != std::string::npos;) {
+    end = subKey.find('\\', end + 1);
+    const std::string section = SectionName(root, subKey.substr(0, end));
+    if (ReadProfile(RegistryFile()).Find(section, kKeyMark) != nullptr) continue;
     const int32_t error = WriteOne(section, kKeyMark, "");
     if (error != 0) return error;
   }
-  *key = Remember(section);
+  *key = Remember(SectionName(root, subKey));
   return 0;
 }
 

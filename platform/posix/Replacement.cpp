@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 
 #include "platform/ErrorNumbers.h"
 #include "platform/posix/PosixErrors.h"
@@ -17,17 +18,23 @@ namespace {
 
 constexpr mode_t kPermissionBits = 07777;
 
-// Where the last link of a chain points, so that the rename replaces the file and not the link.
+// Where the last link of a chain points, so that the rename replaces the file and not the link. The
+// result has a root, since the current directory may have changed by the time of the rename.
 std::string FollowLinks(const std::string& path) {
   char real[PATH_MAX];
   if (realpath(path.c_str(), real) != nullptr) return real;
+  std::string file = path;
   char target[PATH_MAX];
   const ssize_t length = readlink(path.c_str(), target, sizeof target);
-  if (length <= 0) return path;
-  const std::string link(target, static_cast<size_t>(length));
-  if (link[0] == '/') return link;
-  const size_t separator = path.find_last_of('/');
-  return separator == std::string::npos ? link : path.substr(0, separator + 1) + link;
+  if (length > 0) {
+    const size_t separator = path.find_last_of('/');
+    file.assign(target, static_cast<size_t>(length));
+    if (file[0] != '/' && separator != std::string::npos) {
+      file.insert(0, path, 0, separator + 1);
+    }
+  }
+  std::error_code ignored;
+  return std::filesystem::absolute(file, ignored).string();
 }
 
 mode_t DefaultMode() {
