@@ -46,7 +46,10 @@ void ReadTextLine(int16_t fileNumber, std::string& line) {
     files.Skip(fileNumber, bytes.size());
   }
   if (atEnd && !line.empty()) line.pop_back();
-  line.erase(std::remove(line.begin(), line.end(), '\r'), line.end());
+  const size_t firstReturn = line.find('\r');
+  if (firstReturn == std::string::npos) return;
+  line.erase(std::remove(line.begin() + static_cast<std::ptrdiff_t>(firstReturn), line.end(), '\r'),
+             line.end());
 }
 
 std::string ReadTextLine(int16_t fileNumber) {

@@ -48,9 +48,26 @@ struct Digits {
   }
 };
 
+// Most numbers are a few digits between blanks, and are exact without any conversion. False for any
+// other text.
+bool ReadPlainNumber(std::string_view text, double* value) {
+  constexpr int kMostDigits = 15;
+  int64_t number = 0;
+  int digits = 0;
+  for (const char c : text) {
+    if (c == ' ') continue;
+    if (!IsDigit(c) || ++digits > kMostDigits) return false;
+    number = number * 10 + (c - '0');
+  }
+  *value = static_cast<double>(number);
+  return true;
+}
+
 }  // namespace
 
 double Val(std::string_view text) {
+  double plain = 0;
+  if (ReadPlainNumber(text, &plain)) return plain;
   // Longer numbers than this are cut: what is left is far beyond the precision of the result.
   char number[512];
   Digits digits{number, number + sizeof number};
@@ -82,12 +99,13 @@ double Val(std::string_view text) {
   return value;
 }
 
+// Added to a smaller number, 2^52 leaves no room for a fraction, and the addition itself rounds halves
+// to even.
 double RoundHalfEven(double value) {
-  const double below = std::floor(value);
-  const double part = value - below;
-  if (part < 0.5) return below;
-  if (part > 0.5) return below + 1;
-  return std::fmod(below, 2) == 0 ? below : below + 1;
+  constexpr double kNoFractionFrom = 0x1p52;
+  if (!(std::fabs(value) < kNoFractionFrom)) return value;
+  const double shift = std::copysign(kNoFractionFrom, value);
+  return (value + shift) - shift;
 }
 
 namespace {

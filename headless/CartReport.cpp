@@ -17,7 +17,7 @@ std::string SecondsText(float seconds) {
 }
 
 std::string LineText(const CartLine& line) {
-  return FieldText(std::string(Trim(std::string_view(line.data(), line.size()))));
+  return FieldText(Trim(std::string_view(line.data(), line.size())));
 }
 
 }  // namespace

@@ -32,8 +32,8 @@ std::string WriteReport(const std::string& path, const std::string& bytes) {
   return error == kNoError ? "" : path + " could not be written: " + ErrorText(error);
 }
 
-std::string FieldText(const std::string& stationText) {
-  std::string text = stationText;
+std::string FieldText(std::string_view stationText) {
+  std::string text(stationText);
   std::replace_if(
       text.begin(), text.end(),
       [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, ' ');

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace logchecker {
 
@@ -10,6 +11,6 @@ namespace logchecker {
 std::string WriteReport(const std::string& path, const std::string& bytes);
 
 // The text with tabs and other control characters as blanks, in UTF-8: one field of a line.
-std::string FieldText(const std::string& stationText);
+std::string FieldText(std::string_view stationText);
 
 }  // namespace logchecker

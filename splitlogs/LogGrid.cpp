@@ -1,7 +1,7 @@
 #include "splitlogs/LogGrid.h"
 
 #include <algorithm>
-#include <utility>
+#include <string>
 
 #include "common/ErrorState.h"
 #include "common/Numbers.h"
@@ -20,15 +20,16 @@ const std::array<ColumnHeader, kLogColumns> kLogColumnHeaders = {{
 
 namespace {
 
-float TimeOfText(const std::string& text) {
+float TimeOfText(std::string_view text) {
   if (text.empty()) return 0;
   return static_cast<float>(Val(Mid(text, 1, 2)) * 3600 + Val(Mid(text, 4, 2)) * 60);
 }
 
 }  // namespace
 
-LogGrid::LogGrid() {
-  SetRows(1);
+LogGrid::LogGrid() { SetRows(1); }
+
+void LogGrid::SetHeadings() {
   for (int32_t column = 0; column < kLogColumns; ++column) {
     rows_[0].texts[static_cast<size_t>(column)] =
         kLogColumnHeaders[static_cast<size_t>(column)].text;
@@ -38,6 +39,10 @@ LogGrid::LogGrid() {
 void LogGrid::SetRows(int32_t rows) {
   const int32_t count = std::max(rows, 1);
   rows_.resize(static_cast<size_t>(count));
+  if (count == 1) {
+    texts_.Clear();
+    SetHeadings();
+  }
   times_.SetRows(count);
   row_ = std::min(row_, count - 1);
   selectionEndRow_ = std::min(selectionEndRow_, count - 1);
@@ -58,17 +63,17 @@ void LogGrid::RequireColumn(int32_t column) {
   }
 }
 
-const std::string& LogGrid::Text(int32_t row, int32_t column) const {
+std::string_view LogGrid::Text(int32_t row, int32_t column) const {
   RequireRow(row);
   RequireColumn(column);
   return rows_[static_cast<size_t>(row)].texts[static_cast<size_t>(column)];
 }
 
-void LogGrid::SetText(int32_t row, int32_t column, std::string text) {
+void LogGrid::SetText(int32_t row, int32_t column, std::string_view text) {
   RequireRow(row);
   RequireColumn(column);
   if (column == kTimeColumn) times_.SetTime(row, TimeOfText(text));
-  rows_[static_cast<size_t>(row)].texts[static_cast<size_t>(column)] = std::move(text);
+  rows_[static_cast<size_t>(row)].texts[static_cast<size_t>(column)] = texts_.Keep(text);
   TellChange();
 }
 

@@ -4,11 +4,12 @@
 
 #include <array>
 #include <cstdint>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "common/ListView.h"
 #include "splitlogs/BreakTimeIndex.h"
+#include "splitlogs/TextPool.h"
 
 namespace logchecker {
 
@@ -47,8 +48,9 @@ class LogGrid {
   int32_t Rows() const { return static_cast<int32_t>(rows_.size()); }
   void SetRows(int32_t rows);
 
-  const std::string& Text(int32_t row, int32_t column) const;
-  void SetText(int32_t row, int32_t column, std::string text);
+  // The view holds until the grid next has one row.
+  std::string_view Text(int32_t row, int32_t column) const;
+  void SetText(int32_t row, int32_t column, std::string_view text);
   int32_t BackColour(int32_t row, int32_t column) const;
 
   // The current cell. Making a row current makes it the whole selection.
@@ -57,7 +59,7 @@ class LogGrid {
   int32_t Column() const { return column_; }
   void SetColumn(int32_t column);
   // Of the current cell.
-  void SetCellText(std::string text) { SetText(row_, column_, std::move(text)); }
+  void SetCellText(std::string_view text) { SetText(row_, column_, text); }
   void SetCellBackColour(int32_t colour);
 
   // The selection runs from the current cell to here.
@@ -85,18 +87,20 @@ class LogGrid {
 
  private:
   struct GridRow {
-    std::array<std::string, kLogColumns> texts;
+    std::array<std::string_view, kLogColumns> texts;
     std::array<int32_t, kLogColumns> backColours;
 
     GridRow() { backColours.fill(kGridOwnColour); }
   };
 
+  void SetHeadings();
   void RequireRow(int32_t row) const;
   static void RequireColumn(int32_t column);
   void TellChange();
   void TellSelection();
 
   std::vector<GridRow> rows_;
+  TextPool texts_;
   BreakTimeIndex times_;
   int32_t row_ = 0;
   int32_t column_ = 0;
