@@ -16,8 +16,8 @@ namespace {
 
 void ReadLocations(const std::string& iniFile) {
   for (int16_t part = 1; part <= kAudiowallParts; ++part) {
-    PartEntry(part).Path = Os().profiles.GetString(
-        "FileLocations", "Carts" + std::to_string(part), "", kTextBufferLength, iniFile);
+    PartEntry(part).Path = Os().profiles.GetString("FileLocations", "Carts" + std::to_string(part),
+                                                   "", kTextBufferLength, iniFile);
   }
 }
 

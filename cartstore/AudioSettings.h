@@ -1,4 +1,5 @@
-// The family-wide audio settings: where the store lies, how many carts it has, and what else is read.
+// The family-wide audio settings: where the store lies, how many carts it has, and what else is
+// read.
 #pragma once
 
 #include <cstdint>
@@ -18,9 +19,9 @@ struct AudioSettings {
 extern AudioSettings gAudioSettings;
 
 // Reads everything from the profile file `iniFile` and from Audwall.ini in the directory of part 1,
-// fills gAudiowallParts, gNumberOfCarts and the blank cart, and backs the list files of a store of an
-// older version up, once. `registryRoot` is the other source that the family's programs know; with a
-// name in `iniFile` it is never looked at.
+// fills gAudiowallParts, gNumberOfCarts and the blank cart, and backs the list files of a store of
+// an older version up, once. `registryRoot` is the other source that the family's programs know;
+// with a name in `iniFile` it is never looked at.
 void LoadAudioSettings(const std::string& iniFile, const std::string& registryRoot);
 
 // Path of the file that describes the store and stands with it.

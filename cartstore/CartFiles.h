@@ -11,8 +11,8 @@ namespace logchecker {
 std::string GetCartFileStem(int32_t cartNumber);
 
 // The cart's notes: stem and ".RTF", or else ".TXT", whichever can be opened first; with neither,
-// `exists` is false and the result is the ".RTF" name. For a number outside the store the result is ""
-// and `exists` stays as it was.
+// `exists` is false and the result is the ".RTF" name. For a number outside the store the result is
+// "" and `exists` stays as it was.
 std::string GetCartNotesFile(int32_t cartNumber, bool& exists);
 
 }  // namespace logchecker

@@ -16,9 +16,9 @@ using LineTail = std::array<char, kLineTailLength>;
 // The head is not cut at a NUL, the tail is.
 void JoinLine(CartLine& line, const LineHead& head, const LineTail& tail) {
   const void* const nul = std::memchr(tail.data(), '\0', tail.size());
-  const size_t tailLength =
-      nul == nullptr ? tail.size()
-                     : static_cast<size_t>(static_cast<const char*>(nul) - tail.data());
+  const size_t tailLength = nul == nullptr
+                                ? tail.size()
+                                : static_cast<size_t>(static_cast<const char*>(nul) - tail.data());
   std::memcpy(line.data(), head.data(), head.size());
   std::memcpy(line.data() + head.size(), tail.data(), tailLength);
   std::memset(line.data() + head.size() + tailLength, ' ', tail.size() - tailLength);

@@ -102,9 +102,9 @@ void CartInfoFromRecord(CartInfo& info, const CartRecord& record);
 // `Aux160`, `Aux198` and `Aux200` come out as zero.
 void CartRecordFromInfo(CartRecord& record, const CartInfo& info);
 
-// The three lines joined for display, stored in `text` and returned: run together as they stand (150
-// characters), or with `tidy` without the padding and with one space between them, but none behind a
-// line that fills all its 50 places, since its text may run over into the next.
+// The three lines joined for display, stored in `text` and returned: run together as they stand
+// (150 characters), or with `tidy` without the padding and with one space between them, but none
+// behind a line that fills all its 50 places, since its text may run over into the next.
 std::string GetCartDescription(const CartInfo& info, bool tidy, std::string& text);
 
 }  // namespace logchecker

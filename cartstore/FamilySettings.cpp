@@ -66,16 +66,14 @@ constexpr NumberKey kDisplayKeys[] = {
 };
 
 constexpr NumberKey kPlayingKeys[] = {
-    {"Audio", "PlayerFadeSeconds", 2},         {"Audio", "PlayCartsInstantly", 1},
+    {"Audio", "PlayerFadeSeconds", 2},          {"Audio", "PlayCartsInstantly", 1},
     {"Audio", "OnlyAllowEjectStoppedCarts", 0}, {"Audio", "UseLegacyFileCopyMode", 0},
-    {"Audio", "UsePlayerDucking", 1},          {"Audio", "GeneralVolume", 100},
+    {"Audio", "UsePlayerDucking", 1},           {"Audio", "GeneralVolume", 100},
 };
 
 constexpr NumberKey kRecordingKeys[] = {
-    {"Audio", "KHz", 44100},
-    {"Audio", "Channels", 2},
-    {"Audio", "Format", 1},
-    {"Audio", "AllowDifferentFormat", 0},
+    {"Audio", "KHz", 44100},     {"Audio", "Channels", 2},
+    {"Audio", "Format", 1},      {"Audio", "AllowDifferentFormat", 0},
     {"Audio", "RecordLocal", 0},
 };
 
@@ -118,8 +116,7 @@ int32_t CutToMost(int32_t players) { return players > kMostPlayers ? kMostPlayer
 int32_t NumberOfPlayers(const std::string& iniFile) {
   int32_t players = ReadNumber({"CartPlayers", "TotalNumberCartPlayers", -1}, iniFile);
   const std::string option = "/PLAYERS=";
-  if (const size_t place = gCommandLine.find(option);
-      players == -1 && place != std::string::npos) {
+  if (const size_t place = gCommandLine.find(option); players == -1 && place != std::string::npos) {
     auto start = static_cast<int32_t>(place + option.size() + 1);
     int32_t position = 0;
     players = ToInt32(Val(GetDelimitedField(gCommandLine, start, " ", position, true, true)));

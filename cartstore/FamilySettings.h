@@ -17,8 +17,9 @@ struct FamilySettings {
 
 extern FamilySettings gFamilySettings;
 
-// Players, carts and editors. The number of players is that of the settings, or else of /PLAYERS= on
-// the command line, or else of the wave devices; it is cut to 1, since there is room for one alone.
+// Players, carts and editors. The number of players is that of the settings, or else of /PLAYERS=
+// on the command line, or else of the wave devices; it is cut to 1, since there is room for one
+// alone.
 void ReadPlayerSettings(const std::string& iniFile);
 // Section Audio.
 void ReadSoundSettings(const std::string& iniFile);

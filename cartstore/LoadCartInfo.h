@@ -7,10 +7,10 @@
 
 namespace logchecker {
 
-// Fills `info` in every case, with the blank cart for one that is unused, outside the store or can't
-// be read. Returns 0 when it could read, -1 when the number is out of range or its part can't be used,
-// otherwise the number of the error that the read met. Nothing is cached: every call reads anew. A
-// part whose read failed is opened again, quietly, by the next call.
+// Fills `info` in every case, with the blank cart for one that is unused, outside the store or
+// can't be read. Returns 0 when it could read, -1 when the number is out of range or its part can't
+// be used, otherwise the number of the error that the read met. Nothing is cached: every call reads
+// anew. A part whose read failed is opened again, quietly, by the next call.
 int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber);
 
 }  // namespace logchecker

@@ -8,8 +8,8 @@ namespace logchecker {
 // Opens one part, or all in use with `part` 0, and fills list files that are missing or short with
 // blank records. 0 when the part, or any part, is usable, else -1. Unless `quiet`, says what is
 // missing, and asks before it makes a list file; when quiet it makes one without asking. After the
-// answer No the part counts as usable with no file open: its first read fails, and the quiet opening
-// that the next read then does makes the file.
+// answer No the part counts as usable with no file open: its first read fails, and the quiet
+// opening that the next read then does makes the file.
 int32_t OpenAudiowall(int16_t part, bool quiet);
 
 // Closes every part's list file. The locations stay.

@@ -5,8 +5,8 @@
 
 namespace logchecker {
 
-// `rate` in hertz (11025, 22050 or 44100; no device suits any other), `channels` 1 for mono, anything
-// else for stereo. Device indexes count from 0.
+// `rate` in hertz (11025, 22050 or 44100; no device suits any other), `channels` 1 for mono,
+// anything else for stereo. Device indexes count from 0.
 
 // The first suitable index from `first` on, or -1.
 int32_t FindWaveOutDevice(int32_t first, int32_t rate, int16_t channels);

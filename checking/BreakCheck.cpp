@@ -112,8 +112,8 @@ bool TimesDiffer(float time, const BreaksAtATime& breaks) {
   return false;
 }
 
-// All lengths are held against the shortest one; a length on a bound passes. The bounds are rounded to
-// single precision, and a length that is no finite number fails them.
+// All lengths are held against the shortest one; a length on a bound passes. The bounds are rounded
+// to single precision, and a length that is no finite number fails them.
 bool LengthsDiffer(const BreaksAtATime& breaks) {
   const double tolerance = gGeneralSettings.BreakDifferenceMS / 1000.0;
   const auto lower = static_cast<float>(breaks.ShortestLength - tolerance);

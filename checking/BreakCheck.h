@@ -1,4 +1,5 @@
-// The comparison of the breaks of a day across all active splits. The results window is a face of it.
+// The comparison of the breaks of a day across all active splits. The results window is a face of
+// it.
 #pragma once
 
 #include <cstdint>
@@ -31,8 +32,9 @@ class BreakCheck {
   void BuildColumns();
 
   // Walks the break times of all active splits in ascending order and adds a row to lvwResults for
-  // each at which a split has no break, or the lengths differ by more than the tolerance. A row's key
-  // is "t" and its time in seconds. Reads the grids of the loaded logs and, anew, the cart store.
+  // each at which a split has no break, or the lengths differ by more than the tolerance. A row's
+  // key is "t" and its time in seconds. Reads the grids of the loaded logs and, anew, the cart
+  // store.
   //
   // A break at 00:00 is passed over. When every loaded split begins there, one row with the time
   // "--:--" is all that comes of the day: this is meant.

@@ -31,10 +31,10 @@ Moment TakeApart(double dateTime) {
   moment.year = static_cast<int32_t>(date.year());
   moment.weekday =
       static_cast<int32_t>(std::chrono::weekday{std::chrono::sys_days{date}}.c_encoding()) + 1;
-  moment.dayOfYear =
-      parts.Days -
-      DayOfDate(std::chrono::year_month_day{date.year(), std::chrono::January, std::chrono::day{1}}) +
-      1;
+  moment.dayOfYear = parts.Days -
+                     DayOfDate(std::chrono::year_month_day{date.year(), std::chrono::January,
+                                                           std::chrono::day{1}}) +
+                     1;
   const auto seconds = static_cast<int32_t>(parts.Seconds);
   moment.hour = seconds / 3600;
   moment.minute = seconds / 60 % 60;

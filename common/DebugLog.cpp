@@ -23,8 +23,7 @@ void WriteDebugLogIndented(const std::string& text, int32_t level, IndentStep in
   if (indentStep == IndentStep::kReset) gDebugIndent = 0;
   const double now = Os().clock.Now();
   const std::string name = gDebugLogName.empty() ? Os().system.ProgramName() : gDebugLogName;
-  const std::string file =
-      "c:\\" + name + "." + FormatDate(now, "yyyymmdd").value_or("") + ".log";
+  const std::string file = "c:\\" + name + "." + FormatDate(now, "yyyymmdd").value_or("") + ".log";
   const std::string indent(static_cast<size_t>(gDebugIndent) * kIndentWidth, ' ');
   AppendToLogFile(file, false, FormatDate(now, "hh:nn:ss").value_or("") + " " + indent + text);
   if (indentStep == IndentStep::kDeeperAfter) ++gDebugIndent;

@@ -9,8 +9,8 @@
 
 namespace logchecker {
 
-// What the last failing step left behind. Steps that go on after a failure look here; a routine that
-// reads it clears it when it begins.
+// What the last failing step left behind. Steps that go on after a failure look here; a routine
+// that reads it clears it when it begins.
 struct ErrorState {
   int32_t Number = 0;
   std::string Description;

@@ -6,22 +6,22 @@
 
 namespace logchecker {
 
-// The file's length in bytes, or -1 when it can't be had for any reason. A result of 0 or more is the
-// program's one test for whether a file exists.
+// The file's length in bytes, or -1 when it can't be had for any reason. A result of 0 or more is
+// the program's one test for whether a file exists.
 double GetFileLength(const std::string& path);
 
-// True when the file can be opened with no access rights asked; works for a file that another program
-// holds open, where a length test may fail.
+// True when the file can be opened with no access rights asked; works for a file that another
+// program holds open, where a length test may fail.
 bool FileCanBeOpened(const std::string& path);
 
-// Adds a line to a file, with the short date and the time in front when `stamped`. An empty path does
-// nothing, and failures are swallowed.
+// Adds a line to a file, with the short date and the time in front when `stamped`. An empty path
+// does nothing, and failures are swallowed.
 void AppendToLogFile(const std::string& path, bool stamped, const std::string& text);
 
-// The next line of a file opened for input, without carriage returns and its line feed; "" at the end
-// of the file. The last character of a file that does not end in a line feed is lost: the loop tests
-// for the end before it adds, and this is meant. A failing read ends the line and stands in the error
-// state.
+// The next line of a file opened for input, without carriage returns and its line feed; "" at the
+// end of the file. The last character of a file that does not end in a line feed is lost: the loop
+// tests for the end before it adds, and this is meant. A failing read ends the line and stands in
+// the error state.
 std::string ReadTextLine(int16_t fileNumber);
 // The same into a text whose memory is used again.
 void ReadTextLine(int16_t fileNumber, std::string& line);

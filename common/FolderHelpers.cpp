@@ -54,8 +54,8 @@ bool CreateNetworkPath(const std::string& path, bool quiet) {
   return false;
 }
 
-// Goes down the folders of `path`, which ends in a separator, from `rootLength` on and makes each that
-// is missing. Returns the error that stopped it.
+// Goes down the folders of `path`, which ends in a separator, from `rootLength` on and makes each
+// that is missing. Returns the error that stopped it.
 int32_t WalkDown(const std::string& path, size_t rootLength) {
   Directories& directories = Os().directories;
   size_t begin = rootLength;

@@ -1,5 +1,5 @@
-// A report-style list: column headers, and rows of texts. It knows no screen; a window shows it, the
-// CSV writer and the printer take it from here.
+// A report-style list: column headers, and rows of texts. It knows no screen; a window shows it,
+// the CSV writer and the printer take it from here.
 #pragma once
 
 #include <cstddef>
@@ -23,8 +23,8 @@ struct ListSubItem {
 };
 
 struct ListItem {
-  std::string key;   // names the row; unique in its list
-  std::string text;  // of the first column
+  std::string key;                        // names the row; unique in its list
+  std::string text;                       // of the first column
   std::vector<ListSubItem> ListSubItems;  // of the columns from the second on
   bool Selected = false;
   bool Bold = false;

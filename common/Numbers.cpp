@@ -99,8 +99,8 @@ double Val(std::string_view text) {
   return value;
 }
 
-// Added to a smaller number, 2^52 leaves no room for a fraction, and the addition itself rounds halves
-// to even.
+// Added to a smaller number, 2^52 leaves no room for a fraction, and the addition itself rounds
+// halves to even.
 double RoundHalfEven(double value) {
   constexpr double kNoFractionFrom = 0x1p52;
   if (!(std::fabs(value) < kNoFractionFrom)) return value;

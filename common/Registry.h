@@ -1,5 +1,5 @@
-// Text and number values of the registry. A value exists only while it differs from the default that
-// its writer names.
+// Text and number values of the registry. A value exists only while it differs from the default
+// that its writer names.
 #pragma once
 
 #include <cstdint>
@@ -16,7 +16,8 @@ std::string GetRegistryString(uint32_t root, const std::string& subKey,
 int32_t GetRegistryDWord(uint32_t root, const std::string& subKey, const std::string& valueName,
                          int32_t defaultValue);
 
-// Stores the value, or deletes it when it equals `defaultValue` to the letter. Failures are ignored.
+// Stores the value, or deletes it when it equals `defaultValue` to the letter. Failures are
+// ignored.
 void SetRegistryString(uint32_t root, const std::string& subKey, const std::string& valueName,
                        const std::string& value, const std::string& defaultValue);
 void SetRegistryDWord(uint32_t root, const std::string& subKey, const std::string& valueName,

@@ -15,14 +15,14 @@ std::string_view Mid(std::string_view text, size_t start, size_t count = std::st
 
 // The text from a start position up to a delimiter, or to the end where there is none. A `start`
 // below 1 is set to 1. With `skipBlanks` it begins at the first character from there on that is no
-// blank; if there is none the result is empty. `position` gets the place of the delimiter, 0 when it
-// was not found. With `trim` the result is trimmed.
+// blank; if there is none the result is empty. `position` gets the place of the delimiter, 0 when
+// it was not found. With `trim` the result is trimmed.
 std::string GetDelimitedField(std::string_view source, int32_t& start, std::string_view delimiter,
                               int32_t& position, bool trim, bool skipBlanks);
 
-// True when every character belongs to the kind: 1 digits, 2 digits and letters, 3 letters, 4 digits,
-// letters and the blank, 5 digits and the blank. Letters are A to Z and a to z. An empty text and any
-// other kind give true.
+// True when every character belongs to the kind: 1 digits, 2 digits and letters, 3 letters, 4
+// digits, letters and the blank, 5 digits and the blank. Letters are A to Z and a to z. An empty
+// text and any other kind give true.
 bool IsTextOfKind(std::string_view text, int32_t kind);
 
 // `text` up to its first NUL, or up to its last one with `fromEnd`; whole if it holds none.

@@ -11,8 +11,8 @@ namespace {
 
 constexpr double kLastSecond = 86400;
 
-// One field of the display, two characters wide. No value that passes the range test has more digits:
-// the hours end at 24.
+// One field of the display, two characters wide. No value that passes the range test has more
+// digits: the hours end at 24.
 struct Field {
   char text[2] = {' ', ' '};
 

@@ -9,7 +9,8 @@ namespace logchecker {
 
 // `seconds` as hours, minutes, seconds and hundredths. The mask is read by its decimal digits.
 //   units     0 mm:ss.hh   1 hh:mm:ss.hh   2 hh:mm:ss   4 hh:mm   any other mm:ss
-//   tens      with units 2 or more: 0 rounds to the nearest second (halves to the even one), 2 rounds
+//   tens      with units 2 or more: 0 rounds to the nearest second (halves to the even one), 2
+//   rounds
 //             up, any other cuts the fraction off
 //   hundreds  below 100 every field has two digits; above 100 leading zeros are dropped and a field
 //             without a value is two blanks; from 200 on a blank hours or seconds field goes too

@@ -1,6 +1,6 @@
-// What the plain code asks of a person: message boxes with their answers, the mouse pointer, a chance
-// for the screen, progress. The desktop answers with windows, the headless program with standard
-// error, a test with a script.
+// What the plain code asks of a person: message boxes with their answers, the mouse pointer, a
+// chance for the screen, progress. The desktop answers with windows, the headless program with
+// standard error, a test with a script.
 #pragma once
 
 #include <cstdint>

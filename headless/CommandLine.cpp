@@ -62,9 +62,7 @@ void AddDate(CLI::App* app, RawTexts* raw) {
 }
 
 void AddDays(CLI::App* app, Options* options, const char* help) {
-  app->add_option("--days", options->days, help)
-      ->check(CLI::Range(1, kMostDays))
-      ->option_text("N");
+  app->add_option("--days", options->days, help)->check(CLI::Range(1, kMostDays))->option_text("N");
 }
 
 void AddSampleSize(CLI::App* app, const char* name, std::optional<int32_t>* size, int32_t most,
@@ -81,7 +79,8 @@ void Describe(CLI::App& app, Options& options, RawTexts& raw) {
   app.require_subcommand(1);
   app.fallthrough();
 
-  CLI::App* check = app.add_subcommand("check", "Checks a day, or several; what is done by default");
+  CLI::App* check =
+      app.add_subcommand("check", "Checks a day, or several; what is done by default");
   AddDate(check, &raw);
   AddDays(check, &options, "How many days from there on");
   check->add_option("--format", raw.format, "text (for people), csv or json")
@@ -131,9 +130,9 @@ std::vector<std::string> WithVerb(const std::vector<std::string>& arguments) {
     }
   }
   place = std::min(place, result.size());
-  const bool wantsHelp = place < result.size() && (result[place] == "--help" ||
-                                                   result[place] == "-h" ||
-                                                   result[place] == "--version");
+  const bool wantsHelp =
+      place < result.size() &&
+      (result[place] == "--help" || result[place] == "-h" || result[place] == "--version");
   const bool hasVerb = place < result.size() &&
                        std::find(kVerbs.begin(), kVerbs.end(), result[place]) != kVerbs.end();
   if (!wantsHelp && !hasVerb) result.insert(result.begin() + static_cast<long>(place), "check");

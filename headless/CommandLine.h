@@ -22,8 +22,8 @@ struct SampleSizes {
 
 struct Options {
   Verb verb = Verb::kCheck;
-  std::string settingsFolder;         // as given; empty for the user's own
-  std::optional<int32_t> day;         // day number; without it, tomorrow
+  std::string settingsFolder;  // as given; empty for the user's own
+  std::optional<int32_t> day;  // day number; without it, tomorrow
   int32_t days = 1;
   ReportFormat format = ReportFormat::kText;
   std::string output;  // station path; empty for standard output

@@ -11,8 +11,8 @@ namespace logchecker {
 
 // An advert whose cart has no audio.
 struct SilentAdvert {
-  int32_t row = 0;       // of the grid
-  std::string time;      // of its break, as the grid shows it
+  int32_t row = 0;   // of the grid
+  std::string time;  // of its break, as the grid shows it
   int32_t cart = 0;
   std::string description;
   std::string reference;

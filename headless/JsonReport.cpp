@@ -35,12 +35,8 @@ Json SplitJson(const SplitReport& split) {
                       {"reference", Text(advert.reference)},
                       {"position", std::stoll(advert.position)}});
   }
-  return {{"number", split.number},
-          {"name", Text(split.name)},
-          {"log", Text(split.logPath)},
-          {"loaded", split.loaded},
-          {"breaks", split.breaks},
-          {"adverts", split.adverts},
+  return {{"number", split.number},     {"name", Text(split.name)}, {"log", Text(split.logPath)},
+          {"loaded", split.loaded},     {"breaks", split.breaks},   {"adverts", split.adverts},
           {"cartsWithoutAudio", silent}};
 }
 

@@ -65,7 +65,8 @@ int Check(const Options& options) {
     anyChecked = true;
     if (!report.mismatches.empty()) result = std::max(result, kSomethingDiffers);
   }
-  // A day that could not be checked leaves an earlier report as it was, but for JSON, which says so.
+  // A day that could not be checked leaves an earlier report as it was, but for JSON, which says
+  // so.
   if (anyChecked || options.format == ReportFormat::kJson) {
     WriteOrThrow(options.output, Report(options, days));
   }
@@ -80,9 +81,8 @@ int Show(const Options& options) {
   settings.LogDate = FirstDay(options);
   gSplits(options.split).LoadLogFile();
   if (settings.LogFileNumber == 0) {
-    throw Trouble("no log for split " + std::to_string(options.split) + " \"" +
-                  settings.SplitName + "\": " +
-                  GetLogSourcePath(options.split, settings.LogDate, false));
+    throw Trouble("no log for split " + std::to_string(options.split) + " \"" + settings.SplitName +
+                  "\": " + GetLogSourcePath(options.split, settings.LogDate, false));
   }
   WriteOrThrow("", GridReport(options.split));
   return kAllMatch;

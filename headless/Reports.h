@@ -11,8 +11,8 @@ namespace logchecker {
 // A table a day, then the adverts whose carts have no audio, by split. UTF-8.
 std::string TextReport(const std::vector<DayReport>& days);
 
-// The bytes of the desktop's export, or with `withDate` the same with a first column "Date". Headings
-// stand alone when nothing differs. In the station's code page.
+// The bytes of the desktop's export, or with `withDate` the same with a first column "Date".
+// Headings stand alone when nothing differs. In the station's code page.
 std::string CsvReport(const std::vector<DayReport>& days, bool withDate);
 
 // UTF-8, laid out as the headless documentation says.

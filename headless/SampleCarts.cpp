@@ -11,14 +11,14 @@ namespace logchecker {
 
 namespace {
 
-constexpr std::array<const char*, 12> kNames = {"Hollin",  "Marlow", "Tarn",   "Ferris",
-                                                "Quayside", "Birch",  "Calder", "Denby",
-                                                "Orchard", "Redfern", "Saltway", "Wren"};
-constexpr std::array<const char*, 10> kTrades = {"Bakery", "Motors",  "Carpets",  "Garden Centre",
+constexpr std::array<const char*, 12> kNames = {"Hollin",   "Marlow",  "Tarn",    "Ferris",
+                                                "Quayside", "Birch",   "Calder",  "Denby",
+                                                "Orchard",  "Redfern", "Saltway", "Wren"};
+constexpr std::array<const char*, 10> kTrades = {"Bakery", "Motors",   "Carpets", "Garden Centre",
                                                  "Optics", "Kitchens", "Cycles",  "Furniture",
                                                  "Books",  "Dairies"};
-constexpr std::array<const char*, 5> kCampaigns = {"Spring offer", "Opening hours", "Half price week",
-                                                   "New branch",   "Christmas list"};
+constexpr std::array<const char*, 5> kCampaigns = {
+    "Spring offer", "Opening hours", "Half price week", "New branch", "Christmas list"};
 constexpr std::array<int32_t, kLengthClasses> kClassColours = {0xC0FFFF, 0xC0FFC0, 0xFFE0C0,
                                                                0xE0C0FF, 0xC0E0FF, 0xFFFFC0};
 constexpr int32_t kTextColour = 0x000000;
@@ -135,9 +135,8 @@ void WriteSampleStore(const SamplePlan& plan, const std::string& base) {
     }
   }
   WriteNotes();
-  WriteSampleFile(AudiowallSettingsFile(), "[Audiowall]\r\nNoCarts=" +
-                                               std::to_string(kSampleCarts) +
-                                               "\r\nVersion=2.6\r\n");
+  WriteSampleFile(AudiowallSettingsFile(),
+                  "[Audiowall]\r\nNoCarts=" + std::to_string(kSampleCarts) + "\r\nVersion=2.6\r\n");
 }
 
 }  // namespace logchecker

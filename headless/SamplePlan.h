@@ -38,17 +38,17 @@ inline constexpr std::array<SampleSplit, 10> kSampleSplits = {{
 // Carts.
 inline constexpr int32_t kSampleCarts = 4000;
 inline constexpr int32_t kLengthClasses = 6;
-inline constexpr std::array<float, kLengthClasses> kClassSeconds = {10.02F, 15.0F,  20.05F,
+inline constexpr std::array<float, kLengthClasses> kClassSeconds = {10.02F, 15.0F, 20.05F,
                                                                     29.98F, 40.0F, 59.96F};
-inline constexpr float kOverTolerance = 1.5F;     // seconds
+inline constexpr float kOverTolerance = 1.5F;  // seconds
 inline constexpr float kWithinTolerance = 0.3F;
-inline constexpr int32_t kLastJingle = 60;        // carts 1 to here
-inline constexpr int32_t kFirstAdvert = 1001;     // six classes in turn
+inline constexpr int32_t kLastJingle = 60;     // carts 1 to here
+inline constexpr int32_t kFirstAdvert = 1001;  // six classes in turn
 inline constexpr int32_t kAdvertsOfAClass = 480;
-inline constexpr int32_t kFirstLongAdvert = 3901;    // one of each class, over the tolerance
-inline constexpr int32_t kFirstLongishAdvert = 3911; // one of each class, within it
-inline constexpr int32_t kUnusedAdvert = 3950;       // named by a log, and empty
-inline constexpr int32_t kFirstSilentCart = 3960;    // used, with texts and without audio
+inline constexpr int32_t kFirstLongAdvert = 3901;     // one of each class, over the tolerance
+inline constexpr int32_t kFirstLongishAdvert = 3911;  // one of each class, within it
+inline constexpr int32_t kUnusedAdvert = 3950;        // named by a log, and empty
+inline constexpr int32_t kFirstSilentCart = 3960;     // used, with texts and without audio
 inline constexpr int32_t kLastSilentCart = 3963;
 
 inline constexpr int32_t AdvertCart(int32_t lengthClass, int32_t pick) {
@@ -88,14 +88,13 @@ std::vector<SampleBreak> PlanBreaks(const SamplePlan& plan, int16_t split, int32
 // Each writes its share of the station below `base`, a station path, or throws Trouble.
 void WriteSampleSettings(const SamplePlan& plan, const std::string& base);
 void WriteSampleStore(const SamplePlan& plan, const std::string& base);
-void WriteSampleLogs(const SamplePlan& plan, const SampleStation& station,
-                     const std::string& base);
+void WriteSampleLogs(const SamplePlan& plan, const SampleStation& station, const std::string& base);
 // The marker file among them.
 void WriteSampleReadme(const SamplePlan& plan, const SampleStation& station,
                        const std::string& base);
 
-// Throws Trouble when a log of this plan would meet a grid row that equals the row count, since such
-// a log stops the program.
+// Throws Trouble when a log of this plan would meet a grid row that equals the row count, since
+// such a log stops the program.
 void RequireLoadableLogs(const SamplePlan& plan);
 
 // Folders below the base.

@@ -42,15 +42,17 @@ void WriteSampleReadme(const SamplePlan& plan, const SampleStation& station,
   text += "Logs for " + Days(station) + ": " + std::to_string(plan.splits) + " splits with " +
           std::to_string(plan.breaks) + " breaks of " + std::to_string(plan.adverts) +
           " adverts a day.\n\n";
-  text += "Larkfield's log has lines of the old form. Easton and Weston share one file, told apart\n"
-          "by the TX chain codes EST and WST. Coast's file names end in a suffix.\n\n";
+  text +=
+      "Larkfield's log has lines of the old form. Easton and Weston share one file, told apart\n"
+      "by the TX chain codes EST and WST. Coast's file names end in a suffix.\n\n";
   text += plan.mistakes.empty() ? "No mistakes are planted: there is no room for them.\n"
                                 : "Mistakes planted on every day:\n";
   for (const SampleMistake& mistake : plan.mistakes) text += MistakeLine(plan, mistake) + "\n";
   text += "\nThe store has " + std::to_string(kSampleCarts) + " carts in four parts. Carts 1 to " +
           std::to_string(kLastJingle) + " are jingles, adverts begin at " +
           std::to_string(kFirstAdvert) + ", carts " + std::to_string(kFirstSilentCart) + " to " +
-          std::to_string(kLastSilentCart) + " have texts and no audio, and some carts have notes.\n";
+          std::to_string(kLastSilentCart) +
+          " have texts and no audio, and some carts have notes.\n";
   text += plan.individualListFiles
               ? "Five carts have list files of their own, which are read before the part's.\n"
               : "Sizes were given, so the store has part list files alone.\n";

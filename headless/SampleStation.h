@@ -14,10 +14,10 @@ struct SampleStation {
   SampleSizes sizes;
 };
 
-// Writes settings, cart store and logs into `folder`, which is to stand for the Windows folder. With
-// sizes given the store has part list files alone. Throws Trouble when a size would make a log that
-// stops the program, when the folder holds the settings of another station, and when something can't
-// be written.
+// Writes settings, cart store and logs into `folder`, which is to stand for the Windows folder.
+// With sizes given the store has part list files alone. Throws Trouble when a size would make a log
+// that stops the program, when the folder holds the settings of another station, and when something
+// can't be written.
 void WriteSampleStation(const std::string& folder, const SampleStation& station);
 
 }  // namespace logchecker

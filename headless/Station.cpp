@@ -23,7 +23,8 @@ bool CanBeRead(const std::string& path) {
 
 void RequireSettings() {
   const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
-  if (!(GetFileLength(file) > 0)) throw Trouble("there are no settings: " + file + " is missing or empty");
+  if (!(GetFileLength(file) > 0))
+    throw Trouble("there are no settings: " + file + " is missing or empty");
   if (!CanBeRead(file)) throw Trouble("the settings can't be read: " + file);
 }
 
@@ -49,9 +50,9 @@ void OpenStore(TerminalUi& ui) {
   const bool opened = OpenAudiowall(0, false) == 0;
   const std::vector<std::string> messages = ui.TakeMessages();
   if (!opened) {
-    const std::string reason = messages.empty() ? "NoCarts in " + AudiowallSettingsFile() +
-                                                      " leaves no part in use"
-                                                : Joined(messages);
+    const std::string reason =
+        messages.empty() ? "NoCarts in " + AudiowallSettingsFile() + " leaves no part in use"
+                         : Joined(messages);
     throw Trouble("the cart store of " + GetWindowsFolder() + "\\" + kFamilySettingsFile +
                   " can't be opened: " + reason);
   }

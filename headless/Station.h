@@ -15,8 +15,8 @@ class Trouble : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// Points the program at its settings folder and reads the general settings. Throws Trouble when there
-// are none.
+// Points the program at its settings folder and reads the general settings. Throws Trouble when
+// there are none.
 void ReadStationSettings(const Options& options);
 
 // Reads the audio settings and opens the cart store. What is missing of it beside parts that can be

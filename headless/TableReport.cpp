@@ -60,8 +60,8 @@ std::string DayText(const DayReport& day) {
   if (count == 0) {
     text += ": There were no problems found.\n";
   } else {
-    text += ": " + std::to_string(count) +
-            (count == 1 ? " ad break did" : " ad breaks did") + " not match in all splits\n\n";
+    text += ": " + std::to_string(count) + (count == 1 ? " ad break did" : " ad breaks did") +
+            " not match in all splits\n\n";
     text += Table(day.results);
   }
   for (const SplitReport& split : day.splits) text += SilentAdvertLines(split);

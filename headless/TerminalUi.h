@@ -11,8 +11,8 @@ namespace logchecker {
 // Writes "logcheck: " and `text` as one line on standard error: line feeds become blanks.
 void WriteErrorLine(const std::string& text);
 
-// Keeps messages until they are taken. A question is cancelled, or answered Yes with `createMissing`.
-// Progress shows on a terminal alone.
+// Keeps messages until they are taken. A question is cancelled, or answered Yes with
+// `createMissing`. Progress shows on a terminal alone.
 class TerminalUi : public UserInterface {
  public:
   explicit TerminalUi(bool createMissing);

@@ -1,5 +1,6 @@
 // The error numbers by which every platform call reports. 0 is success; the others are the numbers
-// that the runtime of the platform has always used, so that messages and ".ERR" lines stay familiar.
+// that the runtime of the platform has always used, so that messages and ".ERR" lines stay
+// familiar.
 #pragma once
 
 #include <cstdint>

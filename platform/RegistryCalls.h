@@ -28,8 +28,8 @@ class RegistryCalls {
   // Type and size in bytes of a value, without its data.
   virtual int32_t QueryType(RegistryKey key, const std::string& name, uint32_t* type,
                             uint32_t* size) = 0;
-  // Fills `data` (its size is the room there is) and sets the type; the bytes behind the value's end
-  // stay as they were.
+  // Fills `data` (its size is the room there is) and sets the type; the bytes behind the value's
+  // end stay as they were.
   virtual int32_t QueryData(RegistryKey key, const std::string& name, uint32_t* type,
                             std::string* data) = 0;
   virtual int32_t SetValue(RegistryKey key, const std::string& name, uint32_t type,

@@ -19,7 +19,8 @@ class Shell {
  public:
   virtual ~Shell() = default;
 
-  // 0 on success, otherwise the number that the system gives. A failed copy leaves no part of a file.
+  // 0 on success, otherwise the number that the system gives. A failed copy leaves no part of a
+  // file.
   virtual int32_t Run(const FileOperation& operation) = 0;
   // A well-known folder by its number in the system's shell; 5 is the user's documents folder.
   virtual int32_t SpecialFolder(int32_t folderNumber, std::string* path) = 0;

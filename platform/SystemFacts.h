@@ -27,8 +27,8 @@ class SystemFacts {
   virtual std::string ProgramName() = 0;
   // The folder of profile files that are given by a bare name, without a separator at its end.
   virtual std::string WindowsFolder() = 0;
-  // Puts another folder in its place; `folder` is as the command line gave it, in the encoding of the
-  // system. False when the code page can't hold its absolute name.
+  // Puts another folder in its place; `folder` is as the command line gave it, in the encoding of
+  // the system. False when the code page can't hold its absolute name.
   virtual bool SetWindowsFolder(const std::string& folder) = 0;
   virtual OSVERSIONINFO Version() = 0;
 };

@@ -11,9 +11,9 @@ void SetCommandLine(const std::string& commandLine);
 // Settles gSettingsFile by the switch /LI: of the command line, then reads the general settings and
 // those of all ten splits.
 //
-// The switch is odd, and this is meant: the text ".INI" is looked for behind it, in upper case alone,
-// in the line as it was given, and the file's name begins at that text, so that /LI:OTHER.INI means the
-// file ".INI". Without it the switch is ignored.
+// The switch is odd, and this is meant: the text ".INI" is looked for behind it, in upper case
+// alone, in the line as it was given, and the file's name begins at that text, so that
+// /LI:OTHER.INI means the file ".INI". Without it the switch is ignored.
 void LoadGeneralSettings();
 
 }  // namespace logchecker

@@ -9,8 +9,8 @@ namespace logchecker {
 // The loaded day, as a day number.
 extern int32_t CurrentLogDate;
 
-// Loads a day into all ten splits, active or not, and puts the first break of each at the top. Nothing
-// of an earlier day is kept but a log that is still open.
+// Loads a day into all ten splits, active or not, and puts the first break of each at the top.
+// Nothing of an earlier day is kept but a log that is still open.
 void LoadLogs(int32_t date);
 
 // What the main window is called with that day in it.

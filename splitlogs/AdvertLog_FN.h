@@ -7,8 +7,8 @@
 
 namespace logchecker {
 
-// A line of the old form, which a "|" at column 6 marks, as a line of the current form; any other line
-// unchanged.
+// A line of the old form, which a "|" at column 6 marks, as a line of the current form; any other
+// line unchanged.
 //
 //   old       current
 //   1-5       1-5       time as HH:MM
@@ -20,8 +20,8 @@ namespace logchecker {
 //   48-       56-       four more, reference from 60 on
 std::string NormaliseLogLine(std::string_view line);
 
-// Seconds into the day, from hours (columns 1-2), minutes (4-5) and seconds (7-8). Not held to a day:
-// 24:30:00 is 88200. -1 for the empty line.
+// Seconds into the day, from hours (columns 1-2), minutes (4-5) and seconds (7-8). Not held to a
+// day: 24:30:00 is 88200. -1 for the empty line.
 float GetLineTime(std::string_view line);
 
 // Columns 60 to the end, as they stand.

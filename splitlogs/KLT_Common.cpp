@@ -11,8 +11,7 @@ bool gUseDestinationDirectory = false;
 
 std::string GetLogFileName(int16_t splitNumber, int32_t logDate, bool useReconcile) {
   const SplitSettings& settings = SettingsOf(splitNumber);
-  const std::string& extension =
-      useReconcile ? settings.ReconcileExtension : settings.Extension;
+  const std::string& extension = useReconcile ? settings.ReconcileExtension : settings.Extension;
   const std::string date = FormatDate(logDate, settings.DateFormat).value_or(settings.DateFormat);
   const std::string title =
       settings.Suffix != 0 ? date + settings.PreSuffix : settings.PreSuffix + date;

@@ -1,5 +1,5 @@
-// gridLog: the cells of a split's log, with a current row, a top row, a selection and cell colours. It
-// is the one model of a loaded log; a window shows it.
+// gridLog: the cells of a split's log, with a current row, a top row, a selection and cell colours.
+// It is the one model of a loaded log; a window shows it.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@
 namespace logchecker {
 
 enum LogColumn : int32_t {
-  kTimeColumn = 0,         // hours and minutes, on the first row of a break
+  kTimeColumn = 0,  // hours and minutes, on the first row of a break
   kDescriptionColumn = 1,
   kReferenceColumn = 2,
   kCartColumn = 3,
@@ -30,7 +30,8 @@ inline constexpr int32_t kGridOwnColour = -1;
 inline constexpr int32_t kRed = 255;  // 0x00BBGGRR
 inline constexpr int32_t kWhite = 0xFFFFFF;
 
-// Who shows the grid. Told of each change while the grid paints, and once of all when it paints again.
+// Who shows the grid. Told of each change while the grid paints, and once of all when it paints
+// again.
 class LogGridObserver {
  public:
   virtual ~LogGridObserver() = default;

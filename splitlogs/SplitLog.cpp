@@ -78,8 +78,8 @@ class GridFiller {
     grid_.SetText(row_, kPositionColumn, "");
     if (!inBreak_) return;
     grid_.SetText(row_, kLengthColumn,
-                  breakTotal_ > 0 ? FormatLengthDisplay(
-                                        breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH))
+                  breakTotal_ > 0 ? FormatLengthDisplay(breakTotal_,
+                                                        LengthMask(gGeneralSettings.DisplayBreakHH))
                                   : kNoTimeText);
     row_ += 2;
     breakTotal_ = 0;

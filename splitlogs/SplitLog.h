@@ -1,4 +1,5 @@
-// One split's log: loads it into the grid, and finds breaks there. The split's window is a face of it.
+// One split's log: loads it into the grid, and finds breaks there. The split's window is a face of
+// it.
 #pragma once
 
 #include <cstdint>
@@ -32,21 +33,21 @@ class SplitLog {
 
   // Refills the grid from the log of the split's LogDate. With no log ever opened the grid stays
   // empty; where the day has no log but an older one is open, the older one is shown again: this is
-  // meant. Stops the program when the log that is set can't be read, or when a line meets a row that
-  // equals the row count.
+  // meant. Stops the program when the log that is set can't be read, or when a line meets a row
+  // that equals the row count.
   void LoadLogFile();
 
-  // Puts the selection on the whole break at `seconds`, or on the next one after it, at the top of the
-  // window; on the header when there is none.
+  // Puts the selection on the whole break at `seconds`, or on the next one after it, at the top of
+  // the window; on the header when there is none.
   void SelectBreakByTime(float seconds);
 
-  // The first row, from row 1 on, whose time is `seconds`; with `nextIfMissing` at -1, and at no other
-  // value, the first whose time is that or a later one. 0 for none. A row with an empty column 0 has
-  // the time 0.
+  // The first row, from row 1 on, whose time is `seconds`; with `nextIfMissing` at -1, and at no
+  // other value, the first whose time is that or a later one. 0 for none. A row with an empty
+  // column 0 has the time 0.
   void FindBreakByTime(float seconds, int16_t nextIfMissing, int32_t& row) const;
 
-  // The first row of the break that `row` is in or below. In the first break of the grid, which has no
-  // gap above it, `row` itself: this is meant, and such a row leads to row 1 through its time 0.
+  // The first row of the break that `row` is in or below. In the first break of the grid, which has
+  // no gap above it, `row` itself: this is meant, and such a row leads to row 1 through its time 0.
   void FindBeginningofBreak(int32_t row, int32_t& firstRow) const;
 
   // The last advert row of the break that begins at or goes on behind `row`.

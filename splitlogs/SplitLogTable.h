@@ -21,8 +21,8 @@ class SplitLogTable {
   // The log of a split, from 1 to 10; made, with its number given, when there is none.
   SplitLog& operator()(int16_t splitNumber);
   bool IsLoaded(int16_t splitNumber) const;
-  // Drops the split's log with its grid. The log file stays open, and the next address makes an empty
-  // grid.
+  // Drops the split's log with its grid. The log file stays open, and the next address makes an
+  // empty grid.
   void Unload(int16_t splitNumber);
   void UnloadAll();
 

@@ -13,7 +13,8 @@ struct SplitSettings {
   std::string SplitName;
   std::string Extension;
   std::string DateFormat;
-  int16_t Suffix = 0;  // non-zero: PreSuffix follows the date in the file name; 0: it goes before it
+  int16_t Suffix =
+      0;  // non-zero: PreSuffix follows the date in the file name; 0: it goes before it
   std::string PreSuffix;
   std::string LogTXChainCode;  // which lines of a log belong to the split; empty means all
   std::string ReconcileExtension;

@@ -13,8 +13,8 @@ namespace logchecker {
 
 namespace {
 
-// Time stamps of folders can be this coarse: a folder that changed less than this many seconds before
-// it was read may have changed again since, under the same stamp.
+// Time stamps of folders can be this coarse: a folder that changed less than this many seconds
+// before it was read may have changed again since, under the same stamp.
 constexpr time_t kStampSeconds = 2;
 constexpr size_t kFoldersKept = 64;
 

@@ -21,8 +21,9 @@ class PosixProfileFiles : public ProfileFiles {
   int32_t DeleteSection(const std::string& section, const std::string& file) override;
 };
 
-// The number at the start of a profile value: blanks, a sign, then digits, to base 16, 8 or 2 behind
-// 0x, 0o or 0b and to base 10 otherwise. 0 without a digit; more than 32 bits keep the low 32.
+// The number at the start of a profile value: blanks, a sign, then digits, to base 16, 8 or 2
+// behind 0x, 0o or 0b and to base 10 otherwise. 0 without a digit; more than 32 bits keep the
+// low 32.
 int32_t ProfileNumber(const std::string& value);
 
 }  // namespace logchecker

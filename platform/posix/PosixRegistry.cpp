@@ -118,8 +118,7 @@ int32_t PosixRegistry::ReadValue(RegistryKey key, const std::string& name, uint3
                                  std::string* data) const {
   const auto section = openKeys_.find(key);
   if (section == openKeys_.end()) return kInvalidHandle;
-  const std::string* value =
-      ReadProfile(RegistryFile()).Find(section->second, "v" + Escape(name));
+  const std::string* value = ReadProfile(RegistryFile()).Find(section->second, "v" + Escape(name));
   if (value == nullptr) return kNotFound;
   const std::string text = Unescape(value->substr(std::min<size_t>(3, value->size())));
   if (value->rfind("dw:", 0) == 0) {
@@ -155,8 +154,8 @@ int32_t PosixRegistry::SetValue(RegistryKey key, const std::string& name, uint32
                                 const std::string& data) {
   const auto section = openKeys_.find(key);
   if (section == openKeys_.end()) return kInvalidHandle;
-  const std::string value = type == kRegistryNumber ? "dw:" + std::to_string(NumberOf(data))
-                                                    : "sz:" + Escape(data);
+  const std::string value =
+      type == kRegistryNumber ? "dw:" + std::to_string(NumberOf(data)) : "sz:" + Escape(data);
   return WriteOne(section->second, "v" + Escape(name), value);
 }
 

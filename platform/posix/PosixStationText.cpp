@@ -111,8 +111,8 @@ std::string ToUpper(std::string_view stationText) {
   std::string upper(stationText);
   for (char& c : upper) {
     const auto code = static_cast<unsigned char>(c);
-    const bool hasCapital32Below = (code >= 'a' && code <= 'z') || (code >= 0xE0 && code != 0xF7 &&
-                                                                    code != 0xFF);
+    const bool hasCapital32Below =
+        (code >= 'a' && code <= 'z') || (code >= 0xE0 && code != 0xF7 && code != 0xFF);
     const bool hasCapital16Below = code == 0x9A || code == 0x9C || code == 0x9E;
     if (hasCapital32Below) {
       c = static_cast<char>(code - 32);

@@ -42,7 +42,8 @@ bool ReadBytes(const std::string& hostPath, std::string* bytes) {
   const int file = open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
   if (file < 0) return false;
   struct stat facts {};
-  bool whole = fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) && facts.st_size <= kLongestProfile;
+  bool whole =
+      fstat(file, &facts) == 0 && S_ISREG(facts.st_mode) && facts.st_size <= kLongestProfile;
   char part[16384];
   while (whole) {
     const ssize_t count = read(file, part, sizeof part);

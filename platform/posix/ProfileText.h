@@ -9,16 +9,16 @@
 
 namespace logchecker {
 
-// Names compare without regard to case. The first section of a name is the one that counts, and in it
-// the first key of a name. Every line that a change does not concern keeps its bytes, its line end
-// with them.
+// Names compare without regard to case. The first section of a name is the one that counts, and in
+// it the first key of a name. Every line that a change does not concern keeps its bytes, its line
+// end with them.
 class ProfileText {
  public:
   ProfileText() = default;
   explicit ProfileText(std::string_view bytes);
 
-  // The value as it stands behind "=", without blanks around it and without one pair of quotes; null
-  // where the key is missing. The pointer holds until the next change.
+  // The value as it stands behind "=", without blanks around it and without one pair of quotes;
+  // null where the key is missing. The pointer holds until the next change.
   const std::string* Find(const std::string& section, const std::string& key) const;
 
   void Set(const std::string& section, const std::string& key, const std::string& value);

@@ -7,8 +7,8 @@
 
 namespace logchecker {
 
-// Writes beside the target and renames over it on Commit. Links are followed and the mode of the old
-// file is kept. A target that is no regular file (a device, a pipe) is written in place.
+// Writes beside the target and renames over it on Commit. Links are followed and the mode of the
+// old file is kept. A target that is no regular file (a device, a pipe) is written in place.
 class Replacement {
  public:
   Replacement() = default;

@@ -31,9 +31,9 @@ bool Exists(const std::string& path) {
 // The path with "/" throughout and the drive or share replaced by its folder.
 std::string WithoutDrive(std::string path) {
   std::replace(path.begin(), path.end(), '\\', '/');
-  if (path.size() >= 2 && path[1] == ':' && std::isalpha(static_cast<unsigned char>(path[0])) != 0) {
-    const char drive =
-        static_cast<char>(std::tolower(static_cast<unsigned char>(path[0])));
+  if (path.size() >= 2 && path[1] == ':' &&
+      std::isalpha(static_cast<unsigned char>(path[0])) != 0) {
+    const char drive = static_cast<char>(std::tolower(static_cast<unsigned char>(path[0])));
     std::string rest = path.substr(2);
     if (!rest.empty() && rest[0] != '/') rest.insert(0, "/");
     return HostWindowsFolder() + "/drives/" + drive + rest;

@@ -1,0 +1,18 @@
+#!/usr/bin/env bash
+# Format, clang-tidy and the order of the rooms. Fails when any of them finds something.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/tools.sh
+
+mapfile -t sources < <(git ls-files '*.cpp' '*.h')
+clang-format --dry-run --Werror "${sources[@]}"
+echo "Format: clean, ${#sources[@]} files"
+
+python3 scripts/check_rooms.py
+
+# The generated headers and the compile commands come from configuring.
+[ -f build/debug/compile_commands.json ] || cmake --preset debug >/dev/null
+mapfile -t units < <(git ls-files '*.cpp' | grep -Ev '^(tests|bench|platform/windows)/')
+printf '%s\n' "${units[@]}" |
+  xargs -P "$(nproc)" -n 4 clang-tidy --quiet -p build/debug --warnings-as-errors='*' 2>/dev/null
+echo "clang-tidy: clean, ${#units[@]} files"

@@ -1,0 +1,64 @@
+# Sourced by run.sh, test.sh and the benchmarks: sees to it that the tools of a step are there.
+
+# need PACKAGE...: installs the Debian packages that are missing; says plainly what to install where it
+# can't.
+need() {
+  if ! command -v dpkg-query >/dev/null 2>&1; then
+    need_elsewhere
+    return
+  fi
+  local missing=()
+  local package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null 2>&1 || ! sudo -v; then
+      echo "These packages are missing, and installing them takes rights that you don't have here." >&2
+      echo "Ask for: apt-get install ${missing[*]}" >&2
+      exit 1
+    fi
+    as_root=(sudo)
+  fi
+  echo "Installing: ${missing[*]}"
+  "${as_root[@]}" apt-get update -q >/dev/null || true
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+    apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Systems without Debian packages: the tools by name, and the libraries in words.
+need_elsewhere() {
+  local tool
+  for tool in cmake ninja c++; do
+    command -v "$tool" >/dev/null 2>&1 && continue
+    echo "$tool is missing. Log Checker needs CMake 3.25, Ninja, a C++20 compiler, ALSA, CLI11 and" >&2
+    echo "nlohmann-json; its tests also need GoogleTest and RapidCheck." >&2
+    exit 1
+  done
+}
+
+build_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
+test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev)
+windows_packages=("${build_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
+lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
+benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3)
+
+# build PRESET [TARGET...]: configures, when that has not been done, and builds.
+build() {
+  local preset=$1
+  shift
+  local launcher=()
+  command -v ccache >/dev/null 2>&1 && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
+  if [ ! -f "build/$preset/build.ninja" ]; then
+    cmake --preset "$preset" "${launcher[@]}" >"build-$preset.log" 2>&1 || {
+      cat "build-$preset.log" >&2
+      exit 1
+    }
+    rm -f "build-$preset.log"
+  fi
+  local targets=()
+  [ $# -gt 0 ] && targets=(--target "$@")
+  cmake --build --preset "$preset" "${targets[@]}" -- --quiet
+}

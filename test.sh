@@ -1,0 +1,36 @@
+#!/usr/bin/env bash
+# Builds and runs all tests. With an option, one of the other checks:
+#   --windows    the plain tests, cross-built for Windows and run under Wine
+#   --sanitize   the tests with the address and undefined-behaviour sanitizers
+#   --lint       format, clang-tidy, and which room includes which
+set -euo pipefail
+cd "$(dirname "$0")"
+. scripts/tools.sh
+
+run_tests() {
+  build "$1"
+  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$(nproc)"
+}
+
+case "${1:-}" in
+  "")
+    need "${test_packages[@]}"
+    run_tests debug
+    ;;
+  --windows)
+    need "${windows_packages[@]}"
+    run_tests windows
+    ;;
+  --sanitize)
+    need "${test_packages[@]}"
+    run_tests asan
+    ;;
+  --lint)
+    need "${lint_packages[@]}"
+    scripts/lint.sh
+    ;;
+  *)
+    sed -n '2,6s/^# \{0,1\}//p' "$0" >&2
+    exit 2
+    ;;
+esac
