@@ -43,7 +43,7 @@ build_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3
 test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev)
 windows_packages=("${build_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
-benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3)
+benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time)
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.
 build() {

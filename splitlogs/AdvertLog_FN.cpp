@@ -13,26 +13,6 @@ constexpr size_t kToTheEnd = std::string_view::npos;
 
 bool IsOldForm(std::string_view line) { return Mid(line, kOldFormColumn, 1) == "|"; }
 
-// A line in the current form, without a copy where it already has it.
-class NormalisedLine {
- public:
-  explicit NormalisedLine(std::string_view line) : text_(line) {
-    if (!IsOldForm(line)) return;
-    storage_ = NormaliseLogLine(line);
-    text_ = storage_;
-  }
-  NormalisedLine(const NormalisedLine&) = delete;
-  NormalisedLine& operator=(const NormalisedLine&) = delete;
-
-  std::string_view Columns(size_t first, size_t last) const {
-    return Mid(text_, first, last == kToTheEnd ? kToTheEnd : last - first + 1);
-  }
-
- private:
-  std::string storage_;
-  std::string_view text_;
-};
-
 }  // namespace
 
 std::string NormaliseLogLine(std::string_view line) {
@@ -49,27 +29,42 @@ std::string NormaliseLogLine(std::string_view line) {
   return current;
 }
 
-float GetLineTime(std::string_view line) {
-  if (line.empty()) return -1.0F;
-  const NormalisedLine current(line);
-  return static_cast<float>(Val(current.Columns(1, 2)) * 3600 + Val(current.Columns(4, 5)) * 60 +
-                            Val(current.Columns(7, 8)));
+LogLine::LogLine(std::string_view line) : text_(line) {
+  if (!IsOldForm(line)) return;
+  normalised_ = NormaliseLogLine(line);
+  text_ = normalised_;
 }
 
+std::string_view LogLine::Columns(size_t first, size_t last) const {
+  return Mid(text_, first, last == kToTheEnd ? kToTheEnd : last - first + 1);
+}
+
+float LogLine::Time() const {
+  if (text_.empty()) return -1.0F;
+  return static_cast<float>(Val(Columns(1, 2)) * 3600 + Val(Columns(4, 5)) * 60 +
+                            Val(Columns(7, 8)));
+}
+
+std::string_view LogLine::Reference() const { return Columns(60, kToTheEnd); }
+
+std::string_view LogLine::Description() const { return Columns(24, 53); }
+
+int32_t LogLine::Cart() const { return ToInt32(Val(Columns(15, 22))); }
+
+std::string LogLine::TXChainCode() const { return ToUpper(Trim(Columns(10, 13))); }
+
+float GetLineTime(std::string_view line) { return LogLine(line).Time(); }
+
 std::string GetLineReference(std::string_view line) {
-  return std::string(NormalisedLine(line).Columns(60, kToTheEnd));
+  return std::string(LogLine(line).Reference());
 }
 
 std::string GetLineDescription(std::string_view line) {
-  return std::string(NormalisedLine(line).Columns(24, 53));
+  return std::string(LogLine(line).Description());
 }
 
-int32_t GetLineCart(std::string_view line) {
-  return ToInt32(Val(NormalisedLine(line).Columns(15, 22)));
-}
+int32_t GetLineCart(std::string_view line) { return LogLine(line).Cart(); }
 
-std::string GetLineTXChainCode(std::string_view line) {
-  return ToUpper(Trim(NormalisedLine(line).Columns(10, 13)));
-}
+std::string GetLineTXChainCode(std::string_view line) { return LogLine(line).TXChainCode(); }
 
 }  // namespace logchecker

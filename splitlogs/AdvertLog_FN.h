@@ -1,6 +1,7 @@
 // The lines of an advert log. Either form of a line may be passed to any reader.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -35,5 +36,26 @@ int32_t GetLineCart(std::string_view line);
 
 // Columns 10 to 13, trimmed and in upper case.
 std::string GetLineTXChainCode(std::string_view line);
+
+// The same readers on one line that is normalised once, for those who want several of its fields.
+class LogLine {
+ public:
+  // `line` must outlive the object, and the views that it gives.
+  explicit LogLine(std::string_view line);
+  LogLine(const LogLine&) = delete;
+  LogLine& operator=(const LogLine&) = delete;
+
+  float Time() const;
+  std::string_view Reference() const;
+  std::string_view Description() const;
+  int32_t Cart() const;
+  std::string TXChainCode() const;
+
+ private:
+  std::string_view Columns(size_t first, size_t last) const;
+
+  std::string normalised_;  // of an old line
+  std::string_view text_;
+};
 
 }  // namespace logchecker

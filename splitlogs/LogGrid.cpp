@@ -38,7 +38,7 @@ void LogGrid::SetHeadings() {
 
 void LogGrid::SetRows(int32_t rows) {
   const int32_t count = std::max(rows, 1);
-  rows_.resize(static_cast<size_t>(count));
+  rows_.Resize(static_cast<size_t>(count));
   if (count == 1) {
     texts_.Clear();
     SetHeadings();

@@ -5,10 +5,10 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
-#include <vector>
 
 #include "common/ListView.h"
 #include "splitlogs/BreakTimeIndex.h"
+#include "splitlogs/GridRows.h"
 #include "splitlogs/TextPool.h"
 
 namespace logchecker {
@@ -100,7 +100,7 @@ class LogGrid {
   void TellChange();
   void TellSelection();
 
-  std::vector<GridRow> rows_;
+  GridRows<GridRow> rows_;
   TextPool texts_;
   BreakTimeIndex times_;
   int32_t row_ = 0;

@@ -38,27 +38,28 @@ class GridFiller {
   }
 
   // `position` is where the line began in the file, counted from 1.
-  void Add(const std::string& line, int64_t position) {
-    if (Trim(line).empty()) {
+  void Add(const std::string& text, int64_t position) {
+    if (Trim(text).empty()) {
       EndBreak();
-    } else if (chainCode_.empty() || GetLineTXChainCode(line) == chainCode_) {
-      AddAdvert(line, position);
+      return;
     }
+    const LogLine line(text);
+    if (chainCode_.empty() || line.TXChainCode() == chainCode_) AddAdvert(line, position);
   }
 
  private:
-  void AddAdvert(const std::string& line, int64_t position) {
+  void AddAdvert(const LogLine& line, int64_t position) {
     grid_.SetText(row_, kPositionColumn, std::to_string(position));
     if (!inBreak_) {
       inBreak_ = true;
-      grid_.SetText(row_, kTimeColumn,
-                    FormatTimeDisplay(GetLineTime(line), kMaskHoursMinutesSeconds)
-                        .substr(0, kTimeTextLength));
+      grid_.SetText(
+          row_, kTimeColumn,
+          FormatTimeDisplay(line.Time(), kMaskHoursMinutesSeconds).substr(0, kTimeTextLength));
     }
-    grid_.SetText(row_, kDescriptionColumn, GetLineDescription(line));
-    const int32_t cart = GetLineCart(line);
+    grid_.SetText(row_, kDescriptionColumn, line.Description());
+    const int32_t cart = line.Cart();
     grid_.SetText(row_, kCartColumn, std::to_string(cart));
-    grid_.SetText(row_, kReferenceColumn, GetLineReference(line));
+    grid_.SetText(row_, kReferenceColumn, line.Reference());
     CartInfo info;
     LoadCartInfo(info, cart);
     grid_.SetColumn(kLengthColumn);

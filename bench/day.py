@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Times whole runs of logcheck on stations that it writes itself: wall time and peak memory, from the
+start of the process to its end, with warm files. Each row states its limit; the exit code is 1 when one
+is passed."""
+
+import argparse
+import pathlib
+import shutil
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+
+# Name, sizes of the sample, days, limit in milliseconds, limit in MiB.
+ROWS = [
+    ("ordinary day: 10 splits, 60 breaks, 5 adverts", (10, 60, 5), 1, 12, 16),
+    ("heavy day: 10 splits, 1,440 breaks, 8 adverts", (10, 1440, 8), 1, 130, 96),
+    ("a tenth of it: 10 splits, 144 breaks, 8 adverts", (10, 144, 8), 1, None, None),
+    ("30 ordinary days", (10, 60, 5), 30, None, None),
+]
+
+
+def milliseconds(arguments):
+    """Wall time of one run."""
+    begin = time.perf_counter()
+    code = subprocess.run(arguments, stdout=subprocess.DEVNULL, check=False).returncode
+    if code not in (0, 1):
+        sys.exit(f"{' '.join(arguments)} failed")
+    return (time.perf_counter() - begin) * 1000
+
+
+def mebibytes(arguments):
+    """Peak memory of one run. Asked of time(1): a child of this interpreter would inherit its peak."""
+    run = subprocess.run(["/usr/bin/time", "-q", "-f", "%M", *arguments], stdout=subprocess.DEVNULL,
+                         stderr=subprocess.PIPE, text=True, check=False)
+    return int(run.stderr.split()[-1]) / 1024
+
+
+def measure(arguments, times):
+    return statistics.median(milliseconds(arguments) for _ in range(times)), mebibytes(arguments)
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--logcheck", default="build/bench/bin/logcheck")
+    parser.add_argument("--times", type=int, default=21)
+    options = parser.parse_args()
+    logcheck = str(pathlib.Path(options.logcheck).resolve())
+    folder = pathlib.Path(tempfile.mkdtemp(prefix="logchecker-day-"))
+    failed = False
+    try:
+        start, _ = measure([logcheck, "--version"], options.times)
+        print(f"{'process start (--version)':<50}{start:8.1f} ms")
+        results = {}
+        for number, (name, (splits, breaks, adverts), days, most_ms, most_mib) in enumerate(ROWS):
+            station = str(folder / str(number))
+            subprocess.run([logcheck, "sample", station, "--days", str(days), "--splits", str(splits),
+                            "--breaks", str(breaks), "--adverts", str(adverts)], check=True)
+            # Files that changed within two seconds are read anew each time.
+            time.sleep(3)
+            arguments = [logcheck, "check", "--settings", station, "--days", str(days)]
+            measure(arguments, 2)
+            elapsed, memory = measure(arguments, options.times)
+            results[name] = elapsed
+            limit = f"   limit {most_ms} ms, {most_mib} MiB" if most_ms else ""
+            over = bool(most_ms) and (elapsed > most_ms or memory > most_mib)
+            failed = failed or over
+            print(f"{name:<50}{elapsed:8.1f} ms {memory:7.1f} MiB{limit}{'   OVER' if over else ''}")
+        names = [row[0] for row in ROWS]
+        tenfold = (results[names[1]] - start) / (results[names[2]] - start)
+        thirty = results[names[3]] / results[names[0]]
+        for text, factor, most in (("ten times the lines, above process start", tenfold, 11),
+                                   ("30 days against one", thirty, 30)):
+            over = factor > most
+            failed = failed or over
+            print(f"{text:<50}{factor:8.1f} times   limit {most}{'   OVER' if over else ''}")
+    finally:
+        shutil.rmtree(folder)
+    return 1 if failed else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

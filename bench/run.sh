@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Builds the release and measures it: whole runs of the check against their limits, then single
+# routines.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+. scripts/tools.sh
+
+need "${benchmark_packages[@]}"
+build bench logcheck logchecker_bench
+python3 bench/day.py
+build/bench/bin/logchecker_bench --benchmark_min_time=0.3
