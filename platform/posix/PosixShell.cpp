@@ -63,7 +63,7 @@ std::string DocumentsFolder() {
     if (line.rfind(key, 0) != 0 || line.back() != '"') continue;
     std::string folder = line.substr(key.size(), line.size() - key.size() - 1);
     const std::string homeMark = "$HOME";
-    if (folder.rfind(homeMark, 0) == 0) folder = home + folder.substr(homeMark.size());
+    if (folder.rfind(homeMark, 0) == 0) folder.replace(0, homeMark.size(), home);
     if (!folder.empty() && folder[0] == '/') return folder;
   }
   return IsDirectory(home + "/Documents") ? home + "/Documents" : home;

@@ -60,7 +60,7 @@ bool FindName(const std::string& hostFolder, const std::string& name, std::strin
 }
 
 std::string HostPath(std::string_view stationPath) {
-  const std::string path = WithoutDrive(ToUtf8(stationPath));
+  std::string path = WithoutDrive(ToUtf8(stationPath));
   if (path.empty() || Exists(path)) return path;
   std::string result = path[0] == '/' ? "/" : "";
   size_t begin = path.find_first_not_of('/');
