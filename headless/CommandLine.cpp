@@ -188,7 +188,7 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments) {
     return {std::nullopt, 0, app.version() + "\n"};
   } catch (const CLI::CallForHelp&) {
     const auto chosen = app.get_subcommands();
-    return {std::nullopt, 0, chosen.empty() ? app.help() : chosen[0]->help()};
+    return {std::nullopt, 0, chosen.empty() ? app.help() : chosen[0]->help("logcheck")};
   } catch (const CLI::ParseError& error) {
     std::string text;
     FromArgument(error.what(), &text);
