@@ -71,6 +71,8 @@ void AddSampleSize(CLI::App* app, const char* name, std::optional<int32_t>* size
 }
 
 void Describe(CLI::App& app, Options& options, RawTexts& raw) {
+  // A folder may begin with "/", and the settings' own switches are taken out before.
+  app.allow_windows_style_options(false);
   app.description("Checks the advert breaks of a day across all splits of a station.");
   app.set_version_flag("--version", std::string("logcheck ") + kVersion);
   app.add_option("--settings", options.settingsFolder,
