@@ -1,0 +1,106 @@
+#include "checking/ExportListViewToCSV.h"
+
+#include "common/ErrorState.h"
+#include "tests/support/StationTest.h"
+
+namespace logchecker {
+namespace {
+
+class ExportTest : public StationTest {
+ protected:
+  ExportTest() {
+    list.ColumnHeaders = {{"Time"}, {" No\"rth "}, {"South"}};
+    list.ListItems = {{"t1", "10:30", {{" 2:00.00"}, {"Not Found"}}},
+                      {"t2", " 11:30 ", {{"a \"b\" c"}}},
+                      {"t3", "12:30", {{"1"}, {"2"}, {"too many"}}}};
+  }
+  int16_t Export(int16_t onlySelected = 0, const std::string& delimiter = ",") {
+    return ExportListViewToCSV(&list, Path("out.csv"), delimiter, onlySelected);
+  }
+  std::string Written() const { return folder().ReadFile("out.csv"); }
+
+  ListView list;
+};
+
+constexpr char kHeading[] = "\"Time\",\" No'rth \",\"South\"\r\n";
+
+TEST_F(ExportTest, EveryFieldIsQuotedAndRowFieldsAreTrimmed) {
+  EXPECT_EQ(-1, Export());
+  EXPECT_EQ(std::string(kHeading) +
+                "\"10:30\",\"2:00.00\",\"Not Found\"\r\n\"11:30\",\"a 'b' c\",\"\"\r\n"
+                "\"12:30\",\"1\",\"2\"\r\n",
+            Written());
+  EXPECT_EQ((std::vector<MousePointer>{MousePointer::kHourglass, MousePointer::kDefault}),
+            ui.pointers);
+  EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(ExportTest, TheDelimiterStandsBetweenFieldsAlone) {
+  EXPECT_EQ(-1, Export(0, "; "));
+  EXPECT_EQ(0U, Written().find("\"Time\"; \" No'rth \"; \"South\"\r\n"));
+}
+
+TEST_F(ExportTest, OnlySelectedRowsAreWrittenWhenAskedFor) {
+  list.ListItems[0].Selected = true;
+  list.ListItems[2].Selected = true;
+  EXPECT_EQ(-1, Export(-1));
+  EXPECT_EQ(std::string(kHeading) +
+                "\"10:30\",\"2:00.00\",\"Not Found\"\r\n"
+                "\"12:30\",\"1\",\"2\"\r\n",
+            Written());
+}
+
+TEST_F(ExportTest, ThereMustBeSomethingToWriteAndAPlaceForIt) {
+  EXPECT_EQ(0, Export(-1));  // nothing is selected
+  EXPECT_EQ(0, ExportListViewToCSV(nullptr, Path("out.csv"), ",", 0));
+  EXPECT_EQ(0, ExportListViewToCSV(&list, "", ",", 0));
+  list.ListItems.clear();
+  EXPECT_EQ(0, Export());
+  list.ListItems = {{"t", "10:30", {}}};
+  list.ColumnHeaders.clear();
+  EXPECT_EQ(0, Export());
+  EXPECT_FALSE(folder().Exists("out.csv"));
+  EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(ExportTest, AFileThatCannotBeOpenedIsTold) {
+  const std::string path = Path("missing") + "\\out.csv";
+  EXPECT_EQ(0, ExportListViewToCSV(&list, path, ",", 0));
+  ASSERT_EQ(1U, ui.messages.size());
+  EXPECT_EQ("There was a problem opening the file " + path +
+                " to export to and the error's description was reported as : \n\n"
+                "\"Path not found\" (76)",
+            ui.messages[0].text);
+  EXPECT_EQ(MessageIcon::kExclamation, ui.messages[0].icon);
+  EXPECT_EQ(MousePointer::kDefault, ui.pointer);
+}
+
+TEST_F(ExportTest, AWriteThatFailsLeavesTheOldFile) {
+  folder().WriteFile("out.csv", "old");
+  int n = 0;
+  bool failed = true;
+  while (failed) {
+    os.script.Clear();
+    os.script.FailCall(++n + 2, kDiskFull);  // behind FreeFile and OpenForOutput
+    failed = false;
+    try {
+      EXPECT_EQ(-1, Export());
+    } catch (const RunTimeError& error) {
+      failed = true;
+      EXPECT_EQ(kDiskFull, error.number());
+      EXPECT_EQ(Path("out.csv"), error.concerning());
+      EXPECT_EQ("old", Written());
+      EXPECT_EQ(MousePointer::kDefault, ui.pointer);
+    }
+  }
+  EXPECT_EQ(6, n);  // a heading, three rows, the close, and the run that passes
+  EXPECT_EQ(0U, Written().find(kHeading));
+  EXPECT_TRUE(ui.messages.empty());
+  int16_t file = 0;
+  os.script.Clear();
+  Os().files.FreeFile(&file);
+  EXPECT_EQ(1, file);
+}
+
+}  // namespace
+}  // namespace logchecker
