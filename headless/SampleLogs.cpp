@@ -5,9 +5,9 @@
 #include "headless/SamplePlan.h"
 #include "headless/Station.h"
 #include "platform/StationText.h"
-#include "shell/LoadGeneralSettings.h"
 #include "splitlogs/AdvertLog_FN.h"
 #include "splitlogs/KLT_Common.h"
+#include "splitlogs/SplitLog.h"
 #include "splitlogs/SplitSettings.h"
 
 namespace logchecker {
@@ -89,8 +89,6 @@ std::string LogText(const SamplePlan& plan, int16_t split, int32_t day) {
 
 // Counts grid rows as the load does. The row at which the load would stop, or 0.
 int32_t RowThatStopsTheLoad(const std::string& text, const std::string& chainCode) {
-  constexpr int32_t kRowsAtFirst = 1440;
-  constexpr int32_t kRowsToGrowBy = 100;
   int32_t rows = kRowsAtFirst;
   int32_t row = 1;
   bool inBreak = false;

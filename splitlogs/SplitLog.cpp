@@ -19,8 +19,6 @@ namespace logchecker {
 
 namespace {
 
-constexpr int32_t kRowsAtFirst = 1440;
-constexpr int32_t kRowsToGrowBy = 100;
 constexpr size_t kTimeTextLength = 5;  // of "06:00"
 
 // Puts the lines of one log into the grid, row by row.

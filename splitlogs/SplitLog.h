@@ -13,6 +13,10 @@ namespace logchecker {
 inline constexpr int16_t kTrue = -1;
 inline constexpr int16_t kFalse = 0;
 
+// A load begins with this many grid rows, the header included, and adds to them by this many.
+inline constexpr int32_t kRowsAtFirst = 1440;
+inline constexpr int32_t kRowsToGrowBy = 100;
+
 class SplitLog {
  public:
   SplitLog();

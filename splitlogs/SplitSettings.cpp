@@ -1,5 +1,6 @@
 #include "splitlogs/SplitSettings.h"
 
+#include "common/ErrorState.h"
 #include "common/Numbers.h"
 #include "common/SystemHelpers.h"
 #include "platform/Platform.h"
@@ -10,7 +11,10 @@ namespace logchecker {
 std::array<SplitSettings, kMostSplits> gSplitSettings;
 
 SplitSettings& SettingsOf(int16_t splitNumber) {
-  return gSplitSettings.at(static_cast<size_t>(splitNumber - 1));
+  if (splitNumber < 1 || splitNumber > kMostSplits) {
+    throw RunTimeError(kSubscriptOutOfRange, "split " + std::to_string(splitNumber));
+  }
+  return gSplitSettings[static_cast<size_t>(splitNumber - 1)];
 }
 
 namespace {

@@ -32,7 +32,7 @@ struct SplitSettings {
 // There are always ten, whatever NumberActiveSplits says; index is the split number less 1.
 extern std::array<SplitSettings, kMostSplits> gSplitSettings;
 
-// The settings of a split, from 1 to 10.
+// The settings of a split, from 1 to 10; error 9 stops the program for any other.
 SplitSettings& SettingsOf(int16_t splitNumber);
 
 // Reads one split's settings, or all ten with `splitNumber` 0. A missing key gives its default.

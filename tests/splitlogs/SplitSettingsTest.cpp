@@ -1,5 +1,6 @@
 #include "splitlogs/SplitSettings.h"
 
+#include "common/ErrorState.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -81,6 +82,17 @@ TEST_F(SplitSettingsTest, LongTextsArriveCutAndLargeNumbersStayNonZero) {
   EXPECT_EQ(std::string(254, 'b'), SettingsOf(2).SplitName);
   EXPECT_EQ(32767, SettingsOf(1).Suffix);
   EXPECT_EQ(-32768, SettingsOf(2).Suffix);
+}
+
+TEST_F(SplitSettingsTest, ThereAreTenSplitsAndAnotherIsError9) {
+  for (const int16_t number : {int16_t{0}, int16_t{11}, int16_t{-1}}) {
+    try {
+      SettingsOf(number);
+      ADD_FAILURE();
+    } catch (const RunTimeError& error) {
+      EXPECT_EQ(kSubscriptOutOfRange, error.number());
+    }
+  }
 }
 
 }  // namespace
