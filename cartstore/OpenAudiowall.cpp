@@ -88,8 +88,11 @@ void OpenListFile(AudiowallPart& entry, int16_t part) {
   const int32_t capacity = CapacityOf(part);
   if (!(records < capacity)) return;
   // A file that ends inside a record is filled from the rounded record on: 1.5 records and 1 is 2.
-  for (int32_t record = ToInt32(records + 1); record <= capacity; ++record) {
-    Succeeded(files.PutRecord(number, record, &gBlankCartRecord));
+  // A write that fails ends it, so that no gap is left that would pass for carts: the file stays
+  // short, and the next opening goes on there.
+  int32_t record = ToInt32(records + 1);
+  while (record <= capacity && Succeeded(files.PutRecord(number, record, &gBlankCartRecord))) {
+    ++record;
   }
   Succeeded(files.Close(number));
   Succeeded(files.OpenRandom(number, entry.FullFileName, kLength));

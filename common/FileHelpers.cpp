@@ -35,7 +35,8 @@ void ReadTextLine(int16_t fileNumber, std::string& line) {
   bool atEnd = false;
   while (!atEnd) {
     std::string_view bytes;
-    const bool failed = !Succeeded(files.Peek(fileNumber, &bytes));
+    const bool failed = !Succeeded(files.Peek(fileNumber, &bytes)) ||
+                        !Succeeded(line.size() > kLongestLine ? kOverflow : kNoError);
     atEnd = failed || bytes.empty();
     const size_t lineFeed = bytes.find('\n');
     line.append(bytes.substr(0, lineFeed));

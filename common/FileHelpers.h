@@ -1,6 +1,7 @@
 // Files: is it there, how long is it, its next line, one more line for a log.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 
@@ -17,6 +18,9 @@ bool FileCanBeOpened(const std::string& path);
 // Adds a line to a file, with the short date and the time in front when `stamped`. An empty path
 // does nothing, and failures are swallowed.
 void AppendToLogFile(const std::string& path, bool stamped, const std::string& text);
+
+// A line of more bytes than this is no line of a text file.
+inline constexpr size_t kLongestLine = size_t{512} * 1024 * 1024;
 
 // The next line of a file opened for input, without carriage returns and its line feed; "" at the
 // end of the file. The last character of a file that does not end in a line feed is lost: the loop

@@ -31,6 +31,9 @@ class GridFiller {
   // The grid grows only once the row is beyond its count: a row that equals it stops the program,
   // whatever the line that comes there. This is meant.
   void PrepareRow() {
+    if (row_ > kMostRows) {
+      throw RunTimeError(kInvalidGridRow, "more than " + std::to_string(kMostRows) + " rows");
+    }
     if (row_ > grid_.Rows()) grid_.SetRows(grid_.Rows() + kRowsToGrowBy);
     grid_.SetRow(row_);
   }

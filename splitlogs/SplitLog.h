@@ -16,6 +16,8 @@ inline constexpr int16_t kFalse = 0;
 // A load begins with this many grid rows, the header included, and adds to them by this many.
 inline constexpr int32_t kRowsAtFirst = 1440;
 inline constexpr int32_t kRowsToGrowBy = 100;
+// A log of more rows than this is no day's log; it would take the machine's memory.
+inline constexpr int32_t kMostRows = 1000000;
 
 class SplitLog {
  public:

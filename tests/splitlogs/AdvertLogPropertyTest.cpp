@@ -1,6 +1,12 @@
 #include <gtest/gtest.h>
 #include <rapidcheck/gtest.h>
 
+#include <algorithm>
+#include <string>
+
+#include "common/Numbers.h"
+#include "common/TextHelpers.h"
+#include "platform/StationText.h"
 #include "splitlogs/AdvertLog_FN.h"
 
 namespace logchecker {
@@ -31,17 +37,28 @@ RC_GTEST_PROP(AdvertLogProperty, ALineWithoutTheMarkIsLeftAlone, ()) {
   RC_ASSERT(NormaliseLogLine(line) == line);
 }
 
-RC_GTEST_PROP(AdvertLogProperty, TheFieldsOfAnOldLineAreWhereTheyWere, ()) {
-  const auto cart = *rc::gen::inRange(0, 10000);
-  std::string number = std::to_string(cart);
-  number.insert(0, 4 - number.size(), ' ');
-  const auto description = *rc::gen::container<std::string>(30, rc::gen::inRange('A', 'Z'));
-  const std::string line = "10:45|ABCD " + number + " " + description + "     REF";
-  RC_ASSERT(GetLineTime(line) == 10 * 3600 + 45 * 60);
-  RC_ASSERT(GetLineTXChainCode(line) == "ABCD");
-  RC_ASSERT(GetLineCart(line) == cart);
-  RC_ASSERT(GetLineDescription(line) == description);
-  RC_ASSERT(GetLineReference(line) == "REF");
+RC_GTEST_PROP(AdvertLogProperty, AnOldLineIsReadByTheColumnsOfItsOwnForm, ()) {
+  constexpr size_t kReferenceColumn = 52;
+  std::string line = RandomLine('|') + RandomLine(' ');
+  line.resize(std::max(line.size(), kReferenceColumn - 1), ' ');
+  line[5] = '|';
+  const auto columns = [&](size_t first, size_t last) { return Mid(line, first, last - first + 1); };
+  RC_ASSERT(GetLineTime(line) ==
+            static_cast<float>(Val(columns(1, 2)) * 3600 + Val(columns(4, 5)) * 60));
+  RC_ASSERT(GetLineTXChainCode(line) == ToUpper(Trim(columns(7, 10))));
+  RC_ASSERT(GetLineCart(line) == ToInt32(Val(columns(12, 15))));
+  RC_ASSERT(GetLineDescription(line) == columns(17, 46));
+  RC_ASSERT(GetLineReference(line) == Mid(line, kReferenceColumn));
+}
+
+RC_GTEST_PROP(AdvertLogProperty, ALineThatIsNormalisedOnceReadsLikeEachReader, ()) {
+  const std::string line = RandomLine(*rc::gen::element('|', ':'));
+  const LogLine once(line);
+  RC_ASSERT(once.Time() == GetLineTime(line));
+  RC_ASSERT(once.TXChainCode() == GetLineTXChainCode(line));
+  RC_ASSERT(once.Cart() == GetLineCart(line));
+  RC_ASSERT(once.Description() == GetLineDescription(line));
+  RC_ASSERT(once.Reference() == GetLineReference(line));
 }
 
 }  // namespace

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <string>
+
 #include "splitlogs/AdvertLog_FN.h"
 
 namespace logchecker {
@@ -71,17 +74,46 @@ TEST(AdvertLogLine, AnOldLineOf47CharactersEndsWithABlankAtColumn55) {
   EXPECT_EQ("R", GetLineReference(std::string(kOld).substr(0, 52)));
 }
 
-TEST(AdvertLogLine, ALineCutAnywhereGivesWhatIsThere) {
-  const std::string whole(kCurrent);
+// The digits that a line cut behind `length` characters still holds of a number that begins at
+// `column`.
+int32_t DigitsLeft(const std::string& line, size_t length, size_t column, size_t width) {
+  if (length < column) return 0;
+  return std::stoi("0" + line.substr(column - 1, std::min(width, length - column + 1)));
+}
+
+TEST(AdvertLogLine, ACurrentLineCutAnywhereGivesWhatIsThere) {
+  const std::string whole = "06:45:30|NTH  12345678 MIDTOWN CARPETS SUMMER SALE         REF-7781";
   EXPECT_EQ("MIDTOWN", GetLineDescription(whole.substr(0, 30)));
-  for (size_t length = 0; length <= whole.size(); ++length) {
+  EXPECT_EQ(-1, GetLineTime(whole.substr(0, 0)));
+  for (size_t length = 1; length <= whole.size(); ++length) {
     const std::string line = whole.substr(0, length);
-    const std::string description = length > 23 ? line.substr(23, 30) : "";
-    const std::string reference = length > 59 ? line.substr(59) : "";
-    EXPECT_EQ(description, GetLineDescription(line));
-    EXPECT_EQ(reference, GetLineReference(line));
-    EXPECT_EQ(length >= 12 ? "NTH" : (length > 9 ? std::string("NTH").substr(0, length - 9) : ""),
-              GetLineTXChainCode(line));
+    EXPECT_EQ(DigitsLeft(whole, length, 1, 2) * 3600 + DigitsLeft(whole, length, 4, 2) * 60 +
+                  DigitsLeft(whole, length, 7, 2),
+              GetLineTime(line))
+        << length;
+    EXPECT_EQ(length < 10 ? "" : std::string("NTH").substr(0, length - 9), GetLineTXChainCode(line))
+        << length;
+    EXPECT_EQ(DigitsLeft(whole, length, 15, 8), GetLineCart(line)) << length;
+    EXPECT_EQ(length < 24 ? "" : line.substr(23, 30), GetLineDescription(line)) << length;
+    EXPECT_EQ(length < 60 ? "" : line.substr(59), GetLineReference(line)) << length;
+  }
+}
+
+TEST(AdvertLogLine, AnOldLineCutAnywhereGivesWhatIsThere) {
+  const std::string whole = "06:45|NTH  2345 MIDTOWN CARPETS SUMMER SALE        REF-7781";
+  for (size_t length = 1; length <= whole.size(); ++length) {
+    const std::string line = whole.substr(0, length);
+    EXPECT_EQ(DigitsLeft(whole, length, 1, 2) * 3600 + DigitsLeft(whole, length, 4, 2) * 60,
+              GetLineTime(line))
+        << length;
+    EXPECT_EQ(length < 7 ? "" : std::string("NTH").substr(0, length - 6), GetLineTXChainCode(line))
+        << length;
+    EXPECT_EQ(DigitsLeft(whole, length, 12, 4), GetLineCart(line)) << length;
+    // The blank that goes in behind the description follows whatever is left of it.
+    std::string description = length < 16 ? "" : line.substr(16, 30);
+    if (length >= 16 && length < 46) description += ' ';
+    EXPECT_EQ(description, GetLineDescription(line)) << length;
+    EXPECT_EQ(length < 52 ? "" : line.substr(51), GetLineReference(line)) << length;
   }
 }
 

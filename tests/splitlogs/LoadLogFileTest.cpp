@@ -216,6 +216,17 @@ TEST_F(LoadLogFileTest, TheGridGrowsWhenARowJumpsOverTheRowCount) {
   EXPECT_EQ(1441, gSplits(1).gridLog.Rows());
 }
 
+TEST_F(LoadLogFileTest, ALogOfMoreThanAMillionRowsStopsTheProgram) {
+  // Breaks of eight adverts take ten rows and never meet the end of the grid.
+  std::string log;
+  for (int i = 0; i < 99999; ++i) log += BreakOf(8) + "\n";
+  EXPECT_EQ(0, LoadStops(log + BreakOf(9)));
+  EXPECT_EQ(kMostRows, gSplits(1).gridLog.Rows());
+  std::string text;
+  EXPECT_EQ(kInvalidGridRow, LoadStops(log + BreakOf(8) + "\n" + BreakOf(1), &text));
+  EXPECT_NE(std::string::npos, text.find("more than 1000000 rows"));
+}
+
 TEST_F(LoadLogFileTest, ALongLineAndBinaryBytesAreOneAdvert) {
   const LogGrid& grid = Load("06:00:00|NTH  00000001 " + std::string(3 << 20, 'x') + "\n\n");
   EXPECT_EQ(30U, grid.Text(1, kDescriptionColumn).size());

@@ -78,6 +78,11 @@ TEST_F(HostileFilesTest, OneLineOf256MiBIsOneAdvert) {
   EXPECT_NE(std::string::npos, result.output.find("\"breaks\": 1,"));
 }
 
+TEST_F(HostileFilesTest, AFileOfNothingButOneEndlessLineIsTrouble) {
+  std::filesystem::resize_file(log_, uintmax_t{1} << 40);
+  ExpectTroubleInOneLine(Check(), "Run-time error 6: Overflow (split 1 \"Larkfield\"");
+}
+
 TEST_F(HostileFilesTest, ALogThatGrowsAndShrinksWhileItIsReadNeitherHangsNorCrashes) {
   std::atomic<bool> stop{false};
   std::thread writer([&] {
