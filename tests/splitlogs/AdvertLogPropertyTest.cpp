@@ -42,7 +42,9 @@ RC_GTEST_PROP(AdvertLogProperty, AnOldLineIsReadByTheColumnsOfItsOwnForm, ()) {
   std::string line = RandomLine('|') + RandomLine(' ');
   line.resize(std::max(line.size(), kReferenceColumn - 1), ' ');
   line[5] = '|';
-  const auto columns = [&](size_t first, size_t last) { return Mid(line, first, last - first + 1); };
+  const auto columns = [&](size_t first, size_t last) {
+    return Mid(line, first, last - first + 1);
+  };
   RC_ASSERT(GetLineTime(line) ==
             static_cast<float>(Val(columns(1, 2)) * 3600 + Val(columns(4, 5)) * 60));
   RC_ASSERT(GetLineTXChainCode(line) == ToUpper(Trim(columns(7, 10))));
