@@ -75,6 +75,37 @@ TEST_F(ExportTest, AFileThatCannotBeOpenedIsTold) {
   EXPECT_EQ(MousePointer::kDefault, ui.pointer);
 }
 
+TEST_F(ExportTest, AnOpenThatFailsGivesItsNumberBackAndLeavesTheOldFile) {
+  folder().WriteFile("out.csv", "old");
+  const char* const calls[] = {"Files.FreeFile", "Files.OpenForOutput"};
+  const int32_t errors[] = {kTooManyFiles, kPermissionDenied};
+  const char* const texts[] = {"\"Too many files\" (67)", "\"Permission denied\" (70)"};
+  for (size_t i = 0; i < 2; ++i) {
+    ui.messages.clear();
+    os.script.Clear();
+    os.script.FailNamed(calls[i], 1, errors[i]);
+    EXPECT_EQ(0, Export());
+    ASSERT_EQ(1U, ui.messages.size());
+    EXPECT_EQ("There was a problem opening the file " + Path("out.csv") +
+                  " to export to and the error's description was reported as : \n\n" + texts[i],
+              ui.messages[0].text);
+    EXPECT_EQ("old", Written());
+    EXPECT_EQ(MousePointer::kDefault, ui.pointer);
+    os.script.Clear();
+    int16_t file = 0;
+    Os().files.FreeFile(&file);
+    EXPECT_EQ(1, file);
+    Os().files.Abandon(file);
+  }
+}
+
+TEST_F(ExportTest, AnOldFileIsReplacedWhole) {
+  folder().WriteFile("out.csv", std::string(5000, 'x'));
+  list.ListItems.resize(1);
+  EXPECT_EQ(-1, Export());
+  EXPECT_EQ(std::string(kHeading) + "\"10:30\",\"2:00.00\",\"Not Found\"\r\n", Written());
+}
+
 TEST_F(ExportTest, AWriteThatFailsLeavesTheOldFile) {
   folder().WriteFile("out.csv", "old");
   int n = 0;
