@@ -1,5 +1,6 @@
 #include "shell/LoadGeneralSettings.h"
 
+#include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/support/StationTest.h"
@@ -47,6 +48,44 @@ TEST_F(LoadGeneralSettingsTest, TheNumberOfSplitsIsKeptOutsideItsRange) {
     LoadGeneralSettings();
     EXPECT_EQ(number, gGeneralSettings.NumberActiveSplits) << text;
   }
+}
+
+TEST_F(LoadGeneralSettingsTest, ANumberOfSplitsOutsideItsRangeNamesItsKeyAndFileWhereItIsUsed) {
+  const std::pair<int16_t, bool> cases[] = {
+      {0, true}, {1, true}, {10, true}, {11, false}, {-1, false}, {32767, false}, {-32768, false}};
+  for (const auto& [splits, allowed] : cases) {
+    gGeneralSettings.NumberActiveSplits = splits;
+    std::string text;
+    try {
+      RequireSplitsInRange();
+    } catch (const RunTimeError& error) {
+      text = error.what();
+    }
+    EXPECT_EQ(allowed ? ""
+                      : "Run-time error 9: Subscript out of range (NumberActiveSplits=" +
+                            std::to_string(splits) + " in VELKLT.INI)",
+              text);
+  }
+}
+
+TEST_F(LoadGeneralSettingsTest, EveryKeyComesFromTheFileInForceAndOnlyTheDataPathFromTheFamilys) {
+  const std::string keys =
+      "[General]\r\nNumberActiveSplits=3\r\nBreakDifferenceMS=1\r\nDisplayAdvertHH=1\r\n"
+      "DisplayBreakHH=0\r\nDisplayCheckHH=0\r\n[FileLocations]\r\nData=wrong\r\n";
+  folder().WriteFile(".INI", keys);
+  folder().WriteFile("Velmar.ini", "[General]\r\nNumberActiveSplits=9\r\nData=wrong\r\n");
+  SetCommandLine("/LI:X.INI");
+  LoadGeneralSettings();
+  EXPECT_EQ("", gDataPath);
+  EXPECT_EQ(3, gGeneralSettings.NumberActiveSplits);
+  EXPECT_EQ(1, gGeneralSettings.BreakDifferenceMS);
+  EXPECT_TRUE(gGeneralSettings.DisplayAdvertHH);
+  EXPECT_FALSE(gGeneralSettings.DisplayBreakHH);
+  EXPECT_FALSE(gGeneralSettings.DisplayCheckHH);
+  SetCommandLine("");
+  LoadGeneralSettings();
+  EXPECT_EQ("VELKLT.INI", gSettingsFile);
+  EXPECT_EQ(2, gGeneralSettings.NumberActiveSplits);
 }
 
 TEST_F(LoadGeneralSettingsTest, TheSwitchOfTheSettingsFileIsReadInItsOwnWay) {

@@ -1,5 +1,6 @@
 #include "shell/LoadLogs.h"
 
+#include "common/ErrorState.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/support/StationTest.h"
@@ -41,6 +42,36 @@ TEST_F(LoadLogsTest, ADayWithoutALogShowsTheOlderOneUnderTheNewDate) {
   EXPECT_EQ(kDay + 1, CurrentLogDate);
   EXPECT_EQ("06:00", gSplits(1).gridLog.Text(1, kTimeColumn));
   EXPECT_EQ("Velmar KLT Log Checker : " + Os().clock.LongDate(kDay + 1), CaptionOfDay(kDay + 1));
+}
+
+TEST_F(LoadLogsTest, ALogThatCannotBeReadStopsTheDayAndNamesItsSplit) {
+  WriteLog(1, kDay, kLog);
+  WriteLog(3, kDay, kLog);
+  SettingsOf(3).SplitName = "West";
+  os.script.FailNamed("Files.OpenForInput", 2, kPermissionDenied);
+  try {
+    LoadLogs(kDay);
+    ADD_FAILURE();
+  } catch (const RunTimeError& error) {
+    EXPECT_EQ(kBadFileNumber, error.number());
+    EXPECT_NE(std::string::npos,
+              error.concerning().find("split 3 \"West\", " + SettingsOf(3).CurrentLogPath));
+  }
+  EXPECT_EQ(kDay, CurrentLogDate);
+  EXPECT_EQ(5, gSplits(1).gridLog.Rows());
+  EXPECT_EQ(1, gSplits(3).gridLog.Rows());
+  EXPECT_FALSE(gSplits.IsLoaded(4));
+}
+
+TEST_F(LoadLogsTest, ADaysLogTakesThePlaceOfTheDayBefore) {
+  WriteLog(1, kDay, kLog);
+  WriteLog(1, kDay + 1, "07:00:00|NTH  00000001 C\n\n");
+  LoadLogs(kDay);
+  LoadLogs(kDay + 1);
+  const LogGrid& grid = gSplits(1).gridLog;
+  EXPECT_EQ(4, grid.Rows());
+  EXPECT_EQ("07:00", grid.Text(1, kTimeColumn));
+  EXPECT_EQ(1, grid.SelectionEndRow());
 }
 
 TEST_F(LoadLogsTest, ClosingAllFilesTakesTheLogsWithIt) {
