@@ -44,6 +44,9 @@ TEST(AdvertLogLine, EachReaderTakesItsColumnsOfEitherForm) {
       // A current line whose column 6 holds the bar counts as old.
       {"06:00|30|NTH  00012345 A", 21600, "30|N", 0, "012345 A ", ""},
       {"x", 0, "", 0, "", ""},
+      // Digits in all the columns that nobody looks at.
+      {"069009309NTH 9000123459MIDTOWN CARPETS SUMMER SALE   999999REF", 21630, "NTH", 12345,
+       "MIDTOWN CARPETS SUMMER SALE   ", "REF"},
   };
   for (const Line& row : cases) {
     EXPECT_EQ(row.seconds, GetLineTime(row.line)) << row.line;

@@ -87,6 +87,15 @@ TEST_F(LoadLogFileTest, ACartWithoutAudioIsRedAndAddsNothing) {
   EXPECT_EQ("--:--", grid.Text(8, kLengthColumn));
 }
 
+TEST_F(LoadLogFileTest, AStoreThatCannotBeReadIsCartsWithoutAudio) {
+  os.script.FailNamed("Files.GetRecord", 0, kDeviceIoError);
+  const LogGrid& grid = Load(Line("06:00", 1) + Line("06:01", 2) + "\n" + Line("07:00", 1));
+  EXPECT_EQ(6, grid.Rows());
+  EXPECT_EQ("|ADVERT 2||2|--:--|34|red", Row(grid, 2));
+  EXPECT_EQ("07:00|ADVERT 1||1|--:--|68|red", Row(grid, 5));
+  EXPECT_TRUE(ui.messages.empty());
+}
+
 TEST_F(LoadLogFileTest, BlankLinesBeforeAndBetweenLeaveNoTrace) {
   const LogGrid& grid = Load("\n  \n\r\n" + Line("06:00", 1) + "\n\n \n" + Line("07:00", 1) + "\n");
   EXPECT_EQ("06:00", grid.Text(1, kTimeColumn));
@@ -208,8 +217,8 @@ TEST_F(LoadLogFileTest, ALineAtARowThatEqualsTheRowCountStopsTheProgram) {
 
 TEST_F(LoadLogFileTest, TheGridGrowsWhenARowJumpsOverTheRowCount) {
   // The total stands in row 1439, the next break begins in row 1441.
-  EXPECT_EQ(0, LoadStops(BreakOf(1438) + "\n" + BreakOf(98)));
-  EXPECT_EQ(1539, gSplits(1).gridLog.Rows());
+  EXPECT_EQ(0, LoadStops(BreakOf(1438) + "\n" + BreakOf(99)));
+  EXPECT_EQ(1540, gSplits(1).gridLog.Rows());
   EXPECT_EQ("06:00", gSplits(1).gridLog.Text(1441, kTimeColumn));
   EXPECT_EQ(kInvalidGridRow, LoadStops(BreakOf(1438) + "\n" + BreakOf(100)));
   EXPECT_EQ(0, LoadStops(BreakOf(1438) + "\n"));

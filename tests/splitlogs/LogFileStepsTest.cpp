@@ -1,4 +1,5 @@
 // What OpenLogFile asks of the system, step by step, and what each failing step leaves behind.
+#include "common/Dates.h"
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "splitlogs/KLT_Common.h"
@@ -58,6 +59,15 @@ TEST_F(LogFileStepsTest, TheStepsAreTakenInOrder) {
   EXPECT_EQ(
       (Calls{"Files.FileLength", "Files.FreeFile", "Files.OpenForInput", "Files.FileDateTime"}),
       os.script.Calls());
+}
+
+TEST_F(LogFileStepsTest, TheStampIsTheFilesOwnInDaysAndSeconds) {
+  const std::string path = GetLogSourcePath(1, kDay, false);
+  ASSERT_TRUE(Open(kDay));
+  double dateTime = 0;
+  ASSERT_EQ(kNoError, Os().files.FileDateTime(path, &dateTime));
+  EXPECT_EQ(SplitDateTime(dateTime).Days, SettingsOf(1).LogFileDay);
+  EXPECT_EQ(SplitDateTime(dateTime).Seconds, SettingsOf(1).LogFileSeconds);
 }
 
 TEST_F(LogFileStepsTest, AMissingOrEmptyLogIsNoFurtherStep) {
