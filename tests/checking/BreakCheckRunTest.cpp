@@ -122,12 +122,21 @@ TEST_F(BreakCheckRunTest, ToleranceIsInThousandthsOfASecond) {
     float length;
     bool passes;
   };
-  const Case cases[] = {{0, 120.0F, true},           {0, 120.001F, false},
-                        {1, 120.001F, true},         {1, 120.0011F, false},
-                        {999, 120.99F, true},        {999, 121.0F, false},
-                        {1000, 121.0F, true},        {60000, 180.0F, true},
-                        {60000, 180.01F, false},     {2147483647, 99998.0F, true},
-                        {-2147483647, 120.0F, false}};
+  const Case cases[] = {
+      {0, 120.0F, true},
+      {0, 120.001F, false},
+      {1, 120.001F, true},
+      {1, 120.0011F, false},
+      // The nearest single to 120.3 is greater; the bound is rounded to it.
+      {300, 120.3F, true},
+      {999, 120.99F, true},
+      {999, 121.0F, false},
+      {1000, 121.0F, true},
+      {60000, 180.0F, true},
+      {60000, 180.01F, false},
+      {2147483647, 99998.0F, true},
+      {-2147483647, 120.0F, false},
+  };
   for (const Case& row : cases) {
     gGeneralSettings.BreakDifferenceMS = row.tolerance;
     EXPECT_EQ(row.passes, Passes(row.length)) << row.tolerance << " " << row.length;
