@@ -161,6 +161,23 @@ TEST_F(BreakCheckRunTest, AStoreThatIsGoneIsBreaksWithoutLength) {
   EXPECT_TRUE(ui.messages.empty());
 }
 
+TEST_F(BreakCheckRunTest, ABreakThatIsNotThereHasNoLengthWhateverCameBefore) {
+  Fill(1, 10, {{1, "10:30"}, {4, "11:30"}});
+  Fill(2, 4, {{1, "10:30"}});
+  ASSERT_EQ(1U, Found());
+  EXPECT_TRUE(check.Mismatches[0].Lengths[0].found);
+  EXPECT_EQ(120.0F, check.Mismatches[0].Lengths[0].seconds);
+  EXPECT_FALSE(check.Mismatches[0].Lengths[1].found);
+  EXPECT_EQ(0.0F, check.Mismatches[0].Lengths[1].seconds);
+}
+
+TEST_F(BreakCheckRunTest, ColumnsThatAreBuiltAgainTakeThePlaceOfTheOldOnes) {
+  check.BuildColumns();
+  gGeneralSettings.NumberActiveSplits = 10;
+  check.BuildColumns();
+  EXPECT_EQ(11U, check.lvwResults.ColumnHeaders.size());
+}
+
 TEST_F(BreakCheckRunTest, OnlyActiveSplitsAreMadeAndLookedAt) {
   gSplits.UnloadAll();
   Fill(3, 4, {{1, "10:30"}});

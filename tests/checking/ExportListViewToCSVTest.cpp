@@ -1,5 +1,7 @@
 #include "checking/ExportListViewToCSV.h"
 
+#include <algorithm>
+
 #include "common/ErrorState.h"
 #include "tests/support/StationTest.h"
 
@@ -43,7 +45,7 @@ TEST_F(ExportTest, TheDelimiterStandsBetweenFieldsAlone) {
 TEST_F(ExportTest, OnlySelectedRowsAreWrittenWhenAskedFor) {
   list.ListItems[0].Selected = true;
   list.ListItems[2].Selected = true;
-  EXPECT_EQ(-1, Export(-1));
+  EXPECT_EQ(-1, Export(1));  // any value but 0 asks for it
   EXPECT_EQ(std::string(kHeading) +
                 "\"10:30\",\"2:00.00\",\"Not Found\"\r\n"
                 "\"12:30\",\"1\",\"2\"\r\n",
@@ -73,6 +75,8 @@ TEST_F(ExportTest, AFileThatCannotBeOpenedIsTold) {
             ui.messages[0].text);
   EXPECT_EQ(MessageIcon::kExclamation, ui.messages[0].icon);
   EXPECT_EQ(MousePointer::kDefault, ui.pointer);
+  // The hourglass is gone for good by the time of the message.
+  EXPECT_EQ(1, std::count(ui.pointers.begin(), ui.pointers.end(), MousePointer::kHourglass));
 }
 
 TEST_F(ExportTest, AnOpenThatFailsGivesItsNumberBackAndLeavesTheOldFile) {
