@@ -1,4 +1,6 @@
 // What a later load of a split's log sees of what has changed since.
+#include <functional>
+
 #include "common/ErrorState.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
