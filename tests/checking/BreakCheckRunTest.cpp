@@ -102,6 +102,13 @@ TEST_F(BreakCheckRunTest, TheBarStandsAtTheFurthestRowUpTo32000) {
             ui.progress);
 }
 
+TEST_F(BreakCheckRunTest, TheBarIsLeftAloneWhileTheFurthestRowStaysTheSame) {
+  Fill(1, 10, {{1, "10:30"}, {4, "11:30"}});
+  Fill(2, 10, {{1, "10:30"}, {8, "12:30"}});
+  EXPECT_EQ(2U, Found());
+  EXPECT_EQ((std::vector<std::pair<int32_t, int32_t>>{{1, 10}, {8, 10}, {0, 10}}), ui.progress);
+}
+
 TEST_F(BreakCheckRunTest, ABreakBehindRow32000IsCheckedLikeAnyOther) {
   PutCart(2, 60.0F);
   Fill(1, 40000, {{39000, "08:00"}});

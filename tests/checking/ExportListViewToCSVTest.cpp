@@ -37,6 +37,39 @@ TEST_F(ExportTest, EveryFieldIsQuotedAndRowFieldsAreTrimmed) {
   EXPECT_TRUE(ui.messages.empty());
 }
 
+TEST_F(ExportTest, OnlyBlanksAreTrimmedAndOnlyQuotesReplaced) {
+  struct Case {
+    const char* text;
+    const char* field;
+  };
+  const Case cases[] = {
+      {"", ""},
+      {"   ", ""},
+      {"  a  b  ", "a  b"},
+      {"\ta\t", "\ta\t"},
+      {"a,b", "a,b"},
+      {"\"", "'"},
+      {"\"\"", "''"},
+      {" \" ", "'"},
+      {"'a'", "'a'"},
+      {"a\r\nb", "a\r\nb"},
+      {"\xC9t\xE9", "\xC9t\xE9"},
+  };
+  list.ColumnHeaders = {{"T"}, {"N"}};
+  for (const Case& row : cases) {
+    list.ListItems = {{"t1", row.text, {{row.text}}}};
+    ASSERT_EQ(-1, Export());
+    const std::string field = "\"" + std::string(row.field) + "\"";
+    EXPECT_EQ("\"T\",\"N\"\r\n" + field + "," + field + "\r\n", Written()) << row.text;
+  }
+}
+
+TEST_F(ExportTest, AnErrorFromBeforeIsForgotten) {
+  gErrorState.Number = kPathNotFound;
+  EXPECT_EQ(-1, Export());
+  EXPECT_EQ(kNoError, gErrorState.Number);
+}
+
 TEST_F(ExportTest, TheDelimiterStandsBetweenFieldsAlone) {
   EXPECT_EQ(-1, Export(0, "; "));
   EXPECT_EQ(0U, Written().find("\"Time\"; \" No'rth \"; \"South\"\r\n"));
