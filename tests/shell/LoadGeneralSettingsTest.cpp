@@ -39,9 +39,64 @@ TEST_F(LoadGeneralSettingsTest, EachKeyIsReadFromItsFile) {
   EXPECT_EQ("Four", SettingsOf(4).SplitName);
 }
 
+TEST_F(LoadGeneralSettingsTest, ADisplayKeyIsTrueForAnyNumberBut0) {
+  struct Case {
+    const char* text;
+    bool shown;
+  };
+  const Case cases[] = {{"0", false}, {"1", true},  {"5", true},
+                        {"-1", true}, {"x", false}, {"2x", true}};
+  struct Key {
+    const char* name;
+    bool GeneralSettings::*setting;
+  };
+  const Key keys[] = {{"DisplayAdvertHH", &GeneralSettings::DisplayAdvertHH},
+                      {"DisplayBreakHH", &GeneralSettings::DisplayBreakHH},
+                      {"DisplayCheckHH", &GeneralSettings::DisplayCheckHH}};
+  for (const Key& key : keys) {
+    for (const Case& row : cases) {
+      folder().WriteFile("VELKLT.INI", std::string("[General]\r\n") + key.name + "=" + row.text);
+      LoadGeneralSettings();
+      EXPECT_EQ(row.shown, gGeneralSettings.*key.setting) << key.name << "=" << row.text;
+    }
+  }
+}
+
+// A read that fails gives its default, which shows whose turn it was.
+TEST_F(LoadGeneralSettingsTest, TheSplitsAreReadBetweenTheirNumberAndTheOtherSettings) {
+  folder().WriteFile("VELMAR.INI", "[FileLocations]\r\nData=D\r\n");
+  folder().WriteFile("VELKLT.INI",
+                     "[General]\r\nNumberActiveSplits=7\r\nBreakDifferenceMS=1\r\n"
+                     "DisplayAdvertHH=1\r\nDisplayBreakHH=0\r\nDisplayCheckHH=0\r\n");
+  LoadGeneralSettings();
+  const auto calls = static_cast<int>(os.script.Calls().size());
+  ASSERT_GT(calls, 6);
+  const auto defaults = [this](int call) {
+    os.script.Clear();
+    os.script.FailCall(call, kPathNotFound);
+    LoadGeneralSettings();
+    std::string keys;
+    if (gDataPath.empty()) keys += "Data ";
+    if (gGeneralSettings.NumberActiveSplits == 2) keys += "Number ";
+    if (gGeneralSettings.BreakDifferenceMS == 500) keys += "Difference ";
+    if (!gGeneralSettings.DisplayAdvertHH) keys += "Advert ";
+    if (gGeneralSettings.DisplayBreakHH) keys += "Break ";
+    if (gGeneralSettings.DisplayCheckHH) keys += "Check ";
+    return keys;
+  };
+  EXPECT_EQ("Data ", defaults(1));
+  EXPECT_EQ("Number ", defaults(2));
+  for (int call = 3; call <= calls - 4; ++call) EXPECT_EQ("", defaults(call)) << call;
+  EXPECT_EQ("Difference ", defaults(calls - 3));
+  EXPECT_EQ("Advert ", defaults(calls - 2));
+  EXPECT_EQ("Break ", defaults(calls - 1));
+  EXPECT_EQ("Check ", defaults(calls));
+}
+
 TEST_F(LoadGeneralSettingsTest, TheNumberOfSplitsIsKeptOutsideItsRange) {
-  const std::pair<const char*, int16_t> cases[] = {{"0", 0},         {"11", 11}, {"-3", -3},
-                                                   {"65538", 32767}, {"x", 0},   {"", 2}};
+  const std::pair<const char*, int16_t> cases[] = {
+      {"0", 0}, {"11", 11},       {"-3", -3},       {"65538", 32767},   {"x", 0},
+      {"", 2},  {"32767", 32767}, {"32768", 32767}, {"-32768", -32768}, {"-32769", -32768}};
   for (const auto& [text, number] : cases) {
     folder().WriteFile("VELKLT.INI",
                        std::string("[General]\r\nNumberActiveSplits=") + text + "\r\n");
@@ -109,6 +164,13 @@ TEST_F(LoadGeneralSettingsTest, TheSwitchOfTheSettingsFileIsReadInItsOwnWay) {
       {"/LI:OTHER NEXT.INI more", ".INI"},
       {"/LI:A.INI /LI:B.INI", ".INI"},
       {"OTHER.INI", "VELKLT.INI"},
+      {"/LI:OTHER.INI   ", ".INI"},
+      {"/LI:OTHER.INI.INI", ".INI.INI"},
+      {"/LI:OTHER.ini NEXT.INI", ".INI"},
+      {"/LI:A.INI/LI:B.INI", ".INI/LI:B.INI"},
+      {"/LI: \"C:\\MY FILES\\A.INI\"", ".INI\""},
+      {"LI:OTHER.INI", "VELKLT.INI"},
+      {"/LI :OTHER.INI", "VELKLT.INI"},
   };
   for (const Case& row : cases) {
     SetCommandLine(row.commandLine);

@@ -74,12 +74,45 @@ TEST_F(LoadLogsTest, ADaysLogTakesThePlaceOfTheDayBefore) {
   EXPECT_EQ(1, grid.SelectionEndRow());
 }
 
-TEST_F(LoadLogsTest, ClosingAllFilesTakesTheLogsWithIt) {
-  WriteLog(1, kDay, kLog);
+TEST_F(LoadLogsTest, ABreakAtMidnightIsTheFirstOfItsDay) {
+  WriteLog(1, kDay, "00:00:00|NTH  00000001 A\n\n06:00:00|NTH  00000001 B\n\n");
+  LoadLogs(kDay);
+  EXPECT_EQ("00:00", gSplits(1).gridLog.Text(1, kTimeColumn));
+  EXPECT_EQ(1, gSplits(1).gridLog.Row());
+}
+
+TEST_F(LoadLogsTest, ALoadMovesEverySelectionBackToTheFirstBreak) {
+  WriteLog(1, kDay, "06:00:00|NTH  00000001 A\n\n07:00:00|NTH  00000001 B\n\n");
+  LoadLogs(kDay);
+  for (const int32_t day : {kDay, kDay + 1}) {
+    gSplits(1).SelectBreakByTime(7 * 3600);
+    ASSERT_LT(1, gSplits(1).gridLog.Row());
+    LoadLogs(day);
+    EXPECT_EQ(1, gSplits(1).gridLog.Row());
+    EXPECT_EQ(1, gSplits(1).gridLog.TopRow());
+  }
+}
+
+TEST_F(LoadLogsTest, TheCaptionNamesTheDayAskedForInTheLongForm) {
+  for (const int32_t day : {1, 36526, kDay, 2958465}) {
+    EXPECT_EQ("Velmar KLT Log Checker : " + Os().clock.LongDate(day), CaptionOfDay(day)) << day;
+  }
+  EXPECT_NE(CaptionOfDay(kDay), CaptionOfDay(kDay + 1));
+}
+
+TEST_F(LoadLogsTest, ClosingAllFilesTakesTheLogsAndTheStoreWithIt) {
+  for (int16_t n = 1; n <= 10; ++n) WriteLog(n, kDay, kLog);
   LoadLogs(kDay);
   CloseAllFiles();
   bool atEnd = false;
-  EXPECT_EQ(kBadFileNumber, Os().files.EndOfFile(SettingsOf(1).LogFileNumber, &atEnd));
+  for (int16_t n = 1; n <= 10; ++n) {
+    EXPECT_NE(0, SettingsOf(n).LogFileNumber);
+    EXPECT_EQ(kBadFileNumber, Os().files.EndOfFile(SettingsOf(n).LogFileNumber, &atEnd)) << n;
+  }
+  int16_t number = 0;
+  EXPECT_EQ(kNoError, Os().files.FreeFile(&number));
+  EXPECT_EQ(1, number);
+  Os().files.Abandon(number);
 }
 
 }  // namespace
