@@ -28,3 +28,15 @@ function(add_room name)
     target_link_libraries(logchecker_${name} PUBLIC logchecker_${room})
   endforeach()
 endfunction()
+
+# The windows of a room: its ui/ folder, logchecker_<room>_ui. Layouts are .ui files beside their forms.
+# USES names the rooms whose windows it uses.
+function(add_room_ui name)
+  cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
+  add_library(logchecker_${name}_ui STATIC ${ROOM_SOURCES})
+  set_target_properties(logchecker_${name}_ui PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  target_link_libraries(logchecker_${name}_ui PUBLIC logchecker_${name} Qt6::Widgets)
+  foreach(room IN LISTS ROOM_USES)
+    target_link_libraries(logchecker_${name}_ui PUBLIC logchecker_${room}_ui)
+  endforeach()
+endfunction()

@@ -21,6 +21,10 @@ else()
   find_package(nlohmann_json REQUIRED)
 endif()
 
+if(LOGCHECKER_DESKTOP)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+endif()
+
 # Whether the target `rapidcheck` is there, for tests of properties.
 set(LOGCHECKER_HAVE_RAPIDCHECK FALSE)
 

@@ -14,6 +14,7 @@ struct NumberedText {
 constexpr NumberedText kTexts[] = {
     {kInvalidCall, "Invalid procedure call or argument"},
     {kOverflow, "Overflow"},
+    {kOutOfMemory, "Out of memory"},
     {kSubscriptOutOfRange, "Subscript out of range"},
     {kDivisionByZero, "Division by zero"},
     {kBadFileNumber, "Bad file name or number"},

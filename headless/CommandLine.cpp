@@ -7,8 +7,8 @@
 
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
+#include "common/VersionData.h"
 #include "headless/Logcheck.h"
-#include "headless/Version.h"
 #include "platform/StationText.h"
 
 namespace logchecker {

@@ -3,8 +3,8 @@
 #include <nlohmann/json.hpp>
 
 #include "common/TextHelpers.h"
+#include "common/VersionData.h"
 #include "headless/Reports.h"
-#include "headless/Version.h"
 #include "platform/StationText.h"
 
 namespace logchecker {

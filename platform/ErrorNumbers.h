@@ -10,6 +10,7 @@ namespace logchecker {
 inline constexpr int32_t kNoError = 0;
 inline constexpr int32_t kInvalidCall = 5;
 inline constexpr int32_t kOverflow = 6;
+inline constexpr int32_t kOutOfMemory = 7;
 inline constexpr int32_t kSubscriptOutOfRange = 9;
 inline constexpr int32_t kDivisionByZero = 11;
 inline constexpr int32_t kBadFileNumber = 52;

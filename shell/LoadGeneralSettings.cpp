@@ -1,5 +1,6 @@
 #include "shell/LoadGeneralSettings.h"
 
+#include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
@@ -41,6 +42,10 @@ void LoadGeneralSettings() {
   gGeneralSettings.DisplayAdvertHH = ReadNumber("DisplayAdvertHH", 0) != 0;
   gGeneralSettings.DisplayBreakHH = ReadNumber("DisplayBreakHH", 1) != 0;
   gGeneralSettings.DisplayCheckHH = ReadNumber("DisplayCheckHH", 1) != 0;
+}
+
+bool SettingsAreThere() {
+  return GetFileLength(GetWindowsFolder() + "\\" + kDefaultSettingsFile) > 0;
 }
 
 }  // namespace logchecker

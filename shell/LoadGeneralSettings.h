@@ -16,4 +16,8 @@ void SetCommandLine(const std::string& commandLine);
 // /LI:OTHER.INI means the file ".INI". Without it the switch is ignored.
 void LoadGeneralSettings();
 
+// Whether the settings file has been written and is not empty. Looks for the file of the fixed name
+// whatever gSettingsFile holds: this is meant.
+bool SettingsAreThere();
+
 }  // namespace logchecker

@@ -6,6 +6,7 @@
 #include <cctype>
 #include <cstdlib>
 
+#include "platform/HostPaths.h"
 #include "platform/StationText.h"
 #include "platform/posix/FolderNames.h"
 
@@ -76,5 +77,7 @@ std::string HostPath(std::string_view stationPath) {
   }
   return result;
 }
+
+std::string ToHostPath(std::string_view stationPath) { return HostPath(stationPath); }
 
 }  // namespace logchecker

@@ -1,5 +1,5 @@
+#include "platform/HostPaths.h"
 #include "platform/StationText.h"
-
 #include "platform/windows/WindowsApi.h"
 #include "platform/windows/WindowsText.h"
 
@@ -74,5 +74,7 @@ std::string ToUpper(std::string_view stationText) {
   CharUpperBuffA(upper.data(), static_cast<DWORD>(upper.size()));
   return upper;
 }
+
+std::string ToHostPath(std::string_view stationPath) { return ToUtf8(stationPath); }
 
 }  // namespace logchecker

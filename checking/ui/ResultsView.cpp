@@ -1,0 +1,94 @@
+#include "checking/ui/ResultsView.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+#include "common/Numbers.h"
+#include "common/ui/Twips.h"
+
+namespace logchecker {
+
+namespace {
+
+// What the frame and the scroll bar take of the list's width, in twips.
+constexpr int kFrameWidth = 90;
+constexpr int kScrollBarWidth = 255;
+
+}  // namespace
+
+ResultsView::ResultsView(ListView& list, QWidget* parent)
+    : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
+  setModel(model_);
+  setRootIsDecorated(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setAlternatingRowColors(true);
+  setSelectionMode(QAbstractItemView::ExtendedSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  header()->setStretchLastSection(false);
+  header()->setSectionsClickable(false);
+  header()->setSectionsMovable(false);
+  header()->setMinimumSectionSize(1);
+  header()->setTextElideMode(Qt::ElideRight);
+}
+
+void ResultsView::Refresh() { model_->Refresh(); }
+
+void ResultsView::TakeAddedRows() {
+  model_->TakeAddedRows();
+  viewport()->repaint();
+}
+
+std::string ResultsView::KeyOfCurrentRow() const {
+  const QModelIndex current = currentIndex();
+  const auto row = static_cast<size_t>(current.row());
+  if (!current.isValid() || row >= list_.ListItems.size()) return "";
+  return list_.ListItems[row].key;
+}
+
+void ResultsView::ShareColumns(bool keepFirst) {
+  const int columns = model_->columnCount();
+  if (columns < 1) return;
+  if (!keepFirst) setColumnWidth(0, ToPixels(list_.ColumnHeaders.front().width));
+  if (columns < 2) return;
+  const int left = ToTwips(width()) - kFrameWidth - kScrollBarWidth - ToTwips(columnWidth(0));
+  const int32_t share = ToInt32(static_cast<double>(left) / (columns - 1));
+  for (int column = 1; column < columns; ++column) {
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = share;
+    setColumnWidth(column, std::max(share / kTwipsPerPixel, 1));
+  }
+  list_.ColumnHeaders.front().width = ToTwips(columnWidth(0));
+}
+
+void ResultsView::mouseReleaseEvent(QMouseEvent* event) {
+  QTreeView::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) emit rowChosen();
+}
+
+void ResultsView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    emit rowChosen();
+    return;
+  }
+  QTreeView::keyPressEvent(event);
+}
+
+void ResultsView::selectionChanged(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  QTreeView::selectionChanged(selected, deselected);
+  const auto mark = [this](const QItemSelection& ranges, bool on) {
+    for (const QItemSelectionRange& range : ranges) {
+      for (int row = range.top(); row <= range.bottom(); ++row) {
+        const auto index = static_cast<size_t>(row);
+        if (index < list_.ListItems.size()) list_.ListItems[index].Selected = on;
+      }
+    }
+  };
+  mark(deselected, false);
+  mark(selected, true);
+}
+
+}  // namespace logchecker

@@ -1,0 +1,237 @@
+#include "checking/ui/frmCheckBreaks.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QProgressBar>
+#include <QShortcut>
+#include <QToolButton>
+
+#include "checking/ExportFolder.h"
+#include "checking/ExportListViewToCSV.h"
+#include "checking/ui/ResultsView.h"
+#include "common/PathText.h"
+#include "common/UserInterface.h"
+#include "common/ui/Guard.h"
+#include "common/ui/Icons.h"
+#include "common/ui/QtUserInterface.h"
+#include "common/ui/SaveDialog.h"
+#include "common/ui/StationQString.h"
+#include "common/ui/Twips.h"
+#include "splitlogs/SplitLogTable.h"
+
+namespace logchecker {
+
+namespace {
+
+// All in twips.
+constexpr int kLeastHeight = 2000;
+constexpr int kLeastWidth = 3000;
+constexpr int kMargin = 120;
+constexpr int kGap = 60;
+constexpr int kButtonSize = 375;
+constexpr int kListTop = 600;
+constexpr int kProgressHeight = 240;
+
+constexpr int kIconPixels = 17;
+
+}  // namespace
+
+frmCheckBreaks::frmCheckBreaks() : inner_(new QWidget) {
+  setObjectName("frmCheckBreaks");
+  setAttribute(Qt::WA_DeleteOnClose);
+  setWindowTitle("Check Split Times");
+  setWindowIcon(IconNamed("check-day"));
+  BuildControls();
+  setWidget(inner_);
+  inner_->setFocusProxy(lvwResults_);
+  auto* escape = new QShortcut(Qt::Key_Escape, this);
+  escape->setContext(Qt::WidgetWithChildrenShortcut);
+  connect(escape, &QShortcut::activated, this, [this] { close(); });
+  resize(ToPixels(kDesignWidth), ToPixels(kDesignHeight));
+}
+
+void frmCheckBreaks::BuildControls() {
+  Label1_ = new QLabel("These ad breaks did not match in all splits:", inner_);
+  Label1_->setObjectName("Label1");
+  lvwResults_ = new ResultsView(check_.lvwResults, inner_);
+  lvwResults_->setObjectName("lvwResults");
+  lvwResults_->setAccessibleName(Label1_->text());
+  lvwResults_->move(ToPixels(kMargin), ToPixels(kListTop));
+  connect(lvwResults_, &ResultsView::rowChosen, this, [this] { OnRowChosen(); });
+
+  picNoResults_ = new QFrame(inner_);
+  picNoResults_->setObjectName("picNoResults");
+  picNoResults_->setFrameShape(QFrame::StyledPanel);
+  picNoResults_->setAutoFillBackground(true);
+  picNoResults_->setBackgroundRole(QPalette::Base);
+  picNoResults_->hide();
+  auto* picture = new QLabel(picNoResults_);
+  picture->setPixmap(IconNamed("no-problems").pixmap(ToPixels(2 * kButtonSize)));
+  auto* words = new QLabel("There were no problems found.", picNoResults_);
+  words->setObjectName("lblNoResultsDesc");
+  words->setWordWrap(true);
+  auto* row = new QHBoxLayout(picNoResults_);
+  row->addStretch();
+  row->addWidget(picture);
+  row->addWidget(words);
+  row->addStretch();
+
+  ProgressBar1_ = new QProgressBar(inner_);
+  ProgressBar1_->setObjectName("ProgressBar1");
+  ProgressBar1_->setAccessibleName("How far the check is");
+  ProgressBar1_->setTextVisible(false);
+  ProgressBar1_->setRange(0, 1);
+  ProgressBar1_->setValue(0);
+
+  const auto button = [this](const char* name, const char* icon, const char* says,
+                             const char* tip) {
+    auto* made = new QToolButton(inner_);
+    made->setObjectName(name);
+    made->setIcon(IconNamed(icon));
+    made->setIconSize(QSize(kIconPixels, kIconPixels));
+    made->setToolTip(tip);
+    made->setAccessibleName(says);
+    made->setFocusPolicy(Qt::StrongFocus);
+    made->setEnabled(false);
+    made->resize(ToPixels(kButtonSize), ToPixels(kButtonSize));
+    return made;
+  };
+  cmdSave_ = button("cmdSave", "save", "Save", "Export to a CSV File");
+  cmdPrint_ = button("cmdPrint", "print", "Print", "Print the Report");
+  connect(cmdSave_, &QToolButton::clicked, this, [this] { OnSave(); });
+  connect(cmdPrint_, &QToolButton::clicked, this, [this] { PrintDetails(); });
+}
+
+void frmCheckBreaks::Load(const QSize& clientArea) {
+  move((clientArea.width() - width()) / 2, (clientArea.height() - height()) / 2);
+  check_.BuildColumns();
+  lvwResults_->Refresh();
+  lvwResults_->ShareColumns(false);
+  resize(ToPixels(kDesignWidth), height());
+  show();
+  Ui().Yield();
+}
+
+void frmCheckBreaks::resizeEvent(QResizeEvent* event) {
+  QMdiSubWindow::resizeEvent(event);
+  LayOut();
+}
+
+void frmCheckBreaks::showEvent(QShowEvent* event) {
+  QMdiSubWindow::showEvent(event);
+  LayOut();
+}
+
+void frmCheckBreaks::focusInEvent(QFocusEvent* event) {
+  QMdiSubWindow::focusInEvent(event);
+  if (!isMinimized()) lvwResults_->setFocus();
+}
+
+// Setting a size raises the event again, which completes the layout. A maximised window is not held
+// to the least sizes.
+void frmCheckBreaks::LayOut() {
+  if (isMinimized() || isShaded()) return;
+  if (!isMaximized()) {
+    if (ToTwips(height()) < kLeastHeight) {
+      resize(width(), (kLeastHeight + kTwipsPerPixel - 1) / kTwipsPerPixel);
+      return;
+    }
+    if (ToTwips(width()) < kLeastWidth) {
+      resize((kLeastWidth + kTwipsPerPixel - 1) / kTwipsPerPixel, height());
+      return;
+    }
+  }
+  const int width = ToTwips(inner_->width());
+  const int height = ToTwips(inner_->height());
+  const int printLeft = width - kMargin - kButtonSize;
+  cmdPrint_->move(ToPixels(printLeft), ToPixels(kMargin));
+  cmdSave_->move(ToPixels(printLeft - kGap - kButtonSize), ToPixels(kMargin));
+  Label1_->setGeometry(ToPixels(kMargin), ToPixels(kMargin),
+                       cmdSave_->x() - ToPixels(kMargin + kGap), ToPixels(kButtonSize));
+  const int progressTop = height - kProgressHeight - kGap;
+  ProgressBar1_->setGeometry(ToPixels(kGap), ToPixels(progressTop), ToPixels(width - kMargin),
+                             ToPixels(kProgressHeight));
+  lvwResults_->resize(ToPixels(width - 2 * kMargin), ToPixels(progressTop - kGap - kListTop));
+  lvwResults_->ShareColumns(true);
+  picNoResults_->setGeometry(lvwResults_->geometry());
+}
+
+void frmCheckBreaks::CheckBreaks() {
+  const ProgressWatch watch(
+      [this](int32_t value, int32_t maximum) { ShowProgress(value, maximum); });
+  cmdPrint_->setEnabled(false);
+  cmdSave_->setEnabled(false);
+  check_.lvwResults.ListItems.clear();
+  lvwResults_->Refresh();
+  check_.CheckBreaks();
+  ShowOutcome();
+}
+
+// Painted at once, since no event runs while the check does; a step that moves nothing on the
+// screen is passed over.
+void frmCheckBreaks::ShowProgress(int32_t value, int32_t maximum) {
+  constexpr int kSteps = 100;
+  const bool moved =
+      ProgressBar1_->maximum() != maximum ||
+      int64_t{kSteps} * value / maximum != int64_t{kSteps} * ProgressBar1_->value() / maximum;
+  if (!moved) return;
+  ProgressBar1_->setRange(0, maximum);
+  ProgressBar1_->setValue(value);
+  if (value == 0) return;
+  ProgressBar1_->repaint();
+  lvwResults_->TakeAddedRows();
+}
+
+void frmCheckBreaks::ShowOutcome() {
+  lvwResults_->TakeAddedRows();
+  cmdPrint_->setEnabled(check_.cmdPrintEnabled);
+  cmdSave_->setEnabled(check_.cmdSaveEnabled);
+  picNoResults_->setVisible(check_.picNoResultsVisible);
+  if (check_.picNoResultsVisible) picNoResults_->raise();
+}
+
+void frmCheckBreaks::OnRowChosen() {
+  const std::string key = lvwResults_->KeyOfCurrentRow();
+  if (key.empty()) return;
+  Guarded([&] { SelectBreakInActiveSplits(TimeOfResultKey(key)); });
+}
+
+// Without a word where the dialog is cancelled, and where the writing fails part way: then only the
+// message of success is missing.
+void frmCheckBreaks::OnSave() {
+  if (check_.lvwResults.ListItems.empty()) return;
+  const std::string folder =
+      lastFile_.empty() ? RememberedExportFolder() : GetPathPart(lastFile_, false);
+  SaveDialog dialog(this, "Export Results to CSV File...",
+                    "Comma Separated Variable Files (*.CSV);;All Files (*.*)", "CSV", folder);
+  dialog.SetCreatePrompt(true);
+  const std::optional<std::string> file =
+      dialog.Ask(lastFile_.empty() ? "*.CSV" : ToQString(GetFileNamePart(lastFile_)));
+  if (!file) return;
+  lastFile_ = *file;
+  try {
+    Export(*file);
+  } catch (const RunTimeError&) {
+    Ui().SetMousePointer(MousePointer::kDefault);
+  }
+}
+
+void frmCheckBreaks::Export(const std::string& file) {
+  RememberExportFolder(file);
+  if (ExportListViewToCSV(&check_.lvwResults, file, ",", OnlySelected()) == 0) return;
+  ShowInformation("Your Check Split Times Report has been saved into " + file);
+}
+
+// True (-1) from two rows on: a single one is the row that was clicked to look at a break.
+int16_t frmCheckBreaks::OnlySelected() const {
+  int selected = 0;
+  for (const ListItem& item : check_.lvwResults.ListItems) {
+    if (item.Selected && ++selected > 1) return -1;
+  }
+  return 0;
+}
+
+void frmCheckBreaks::PrintDetails() {}
+
+}  // namespace logchecker

@@ -1,0 +1,64 @@
+// The results window: what the comparison of a day found.
+#pragma once
+
+#include <QMdiSubWindow>
+#include <string>
+
+#include "checking/BreakCheck.h"
+
+class QFrame;
+class QLabel;
+class QProgressBar;
+class QToolButton;
+
+namespace logchecker {
+
+class ResultsView;
+
+// Goes when the user closes it; a later check reuses it while it stands.
+class frmCheckBreaks : public QMdiSubWindow {
+  Q_OBJECT
+
+ public:
+  frmCheckBreaks();
+
+  // Builds the columns, and shows the window in the middle of a client area of this size, drawn
+  // before anything else happens.
+  void Load(const QSize& clientArea);
+
+  // Compares the breaks of all active splits while the user looks.
+  void CheckBreaks();
+  // Sends the list to a printer.
+  void PrintDetails();
+
+  // The size that it begins with, in twips.
+  static constexpr int kDesignWidth = 5000;
+  static constexpr int kDesignHeight = 4800;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+
+ private:
+  void BuildControls();
+  void LayOut();
+  void ShowProgress(int32_t value, int32_t maximum);
+  void ShowOutcome();
+  void OnRowChosen();
+  void OnSave();
+  void Export(const std::string& file);
+  int16_t OnlySelected() const;
+
+  BreakCheck check_;
+  std::string lastFile_;  // of the previous export, which the dialog offers again
+  QWidget* inner_;
+  QLabel* Label1_;
+  ResultsView* lvwResults_;
+  QFrame* picNoResults_;
+  QProgressBar* ProgressBar1_;
+  QToolButton* cmdSave_;
+  QToolButton* cmdPrint_;
+};
+
+}  // namespace logchecker

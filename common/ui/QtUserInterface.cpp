@@ -1,0 +1,96 @@
+#include "common/ui/QtUserInterface.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <utility>
+
+#include "common/ui/StationQString.h"
+
+namespace logchecker {
+
+namespace {
+
+ProgressWatch::Watcher& TheWatcher() {
+  static ProgressWatch::Watcher watcher;
+  return watcher;
+}
+
+QMessageBox::Icon IconOf(MessageIcon icon) {
+  switch (icon) {
+    case MessageIcon::kInformation:
+      return QMessageBox::Information;
+    case MessageIcon::kQuestion:
+      return QMessageBox::Question;
+    case MessageIcon::kExclamation:
+      return QMessageBox::Warning;
+    case MessageIcon::kCritical:
+      return QMessageBox::Critical;
+    case MessageIcon::kNone:
+      break;
+  }
+  return QMessageBox::NoIcon;
+}
+
+MessageAnswer AnswerOf(int button, MessageButtons buttons) {
+  switch (button) {
+    case QMessageBox::Yes:
+      return MessageAnswer::kYes;
+    case QMessageBox::No:
+      return MessageAnswer::kNo;
+    default:
+      return buttons == MessageButtons::kOk ? MessageAnswer::kOk : MessageAnswer::kCancel;
+  }
+}
+
+}  // namespace
+
+QtUserInterface::QtUserInterface() : before_(UseUserInterface(*this)) {}
+
+QtUserInterface::~QtUserInterface() {
+  SetMousePointer(MousePointer::kDefault);
+  UseUserInterface(before_);
+}
+
+MessageAnswer QtUserInterface::Show(const Message& message) {
+  QMessageBox box(QApplication::activeWindow());
+  box.setObjectName("MsgBox");
+  box.setTextFormat(Qt::PlainText);
+  box.setText(ToQString(message.text));
+  box.setWindowTitle(AsTitle(ToQString(message.title)));
+  box.setIcon(IconOf(message.icon));
+  box.setStandardButtons(message.buttons == MessageButtons::kOk
+                             ? QMessageBox::Ok
+                             : QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel);
+  const MousePointer shown = pointer_;
+  SetMousePointer(MousePointer::kDefault);
+  const int button = box.exec();
+  SetMousePointer(shown);
+  return AnswerOf(button, message.buttons);
+}
+
+void QtUserInterface::SetMousePointer(MousePointer pointer) {
+  if (pointer == pointer_) return;
+  pointer_ = pointer;
+  if (pointer == MousePointer::kHourglass) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
+void QtUserInterface::Yield() { QApplication::processEvents(); }
+
+void QtUserInterface::ShowProgress(int32_t value, int32_t maximum) {
+  if (TheWatcher()) TheWatcher()(value, maximum);
+}
+
+ProgressWatch::ProgressWatch(Watcher watcher)
+    : before_(std::exchange(TheWatcher(), std::move(watcher))) {}
+
+ProgressWatch::~ProgressWatch() { TheWatcher() = std::move(before_); }
+
+void ShowInformation(const std::string& text) {
+  Ui().Show({text, MessageIcon::kInformation, MessageButtons::kOk, kProgramTitle});
+}
+
+}  // namespace logchecker

@@ -1,0 +1,47 @@
+// Message boxes, pointer and progress on the desktop.
+#pragma once
+
+#include <functional>
+
+#include "common/UserInterface.h"
+
+namespace logchecker {
+
+// In force for as long as it lives.
+class QtUserInterface : public UserInterface {
+ public:
+  QtUserInterface();
+  ~QtUserInterface() override;
+  QtUserInterface(const QtUserInterface&) = delete;
+  QtUserInterface& operator=(const QtUserInterface&) = delete;
+
+  // A box over the active window. Its text is shown as it is, never as markup.
+  MessageAnswer Show(const Message& message) override;
+  void SetMousePointer(MousePointer pointer) override;
+  MousePointer CurrentMousePointer() override { return pointer_; }
+  void Yield() override;
+  void ShowProgress(int32_t value, int32_t maximum) override;
+
+ private:
+  MousePointer pointer_ = MousePointer::kDefault;
+  UserInterface& before_;
+};
+
+// Sees the progress of long jobs for as long as it lives.
+class ProgressWatch {
+ public:
+  using Watcher = std::function<void(int32_t value, int32_t maximum)>;
+
+  explicit ProgressWatch(Watcher watcher);
+  ~ProgressWatch();
+  ProgressWatch(const ProgressWatch&) = delete;
+  ProgressWatch& operator=(const ProgressWatch&) = delete;
+
+ private:
+  Watcher before_;
+};
+
+// A box of one's own with a single button, through the user interface in force.
+void ShowInformation(const std::string& text);
+
+}  // namespace logchecker

@@ -1,0 +1,36 @@
+// The dialog in which the user says where a file is to be saved.
+#pragma once
+
+#include <QFileDialog>
+#include <optional>
+#include <string>
+
+namespace logchecker {
+
+// Asks before it replaces a file. A name with a wildcard filters the list and saves nothing.
+class SaveDialog : public QFileDialog {
+  Q_OBJECT
+
+ public:
+  // `filters` as "Text (*.EXT)", joined by ";;"; the first is preset. The folder is a station path.
+  SaveDialog(QWidget* owner, const QString& title, const QString& filters,
+             const QString& defaultExtension, const std::string& folder);
+
+  // Whether the dialog asks before a new file is made.
+  void SetCreatePrompt(bool createPrompt) { createPrompt_ = createPrompt; }
+
+  // The chosen file as a station path; nothing when the user cancels. `presetName` stands in the
+  // name's box at first. A name that the code page can't hold is refused with a message.
+  std::optional<std::string> Ask(const QString& presetName);
+
+ protected:
+  void accept() override;
+
+ private:
+  bool Refuses(const QString& file);
+  bool Agrees(const QString& question);
+
+  bool createPrompt_ = false;
+};
+
+}  // namespace logchecker

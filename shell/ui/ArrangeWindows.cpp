@@ -1,0 +1,97 @@
+// The child windows of the frame: which there are, and where they stand.
+#include <QAction>
+#include <QLabel>
+#include <QMdiArea>
+#include <vector>
+
+#include "common/ErrorState.h"
+#include "common/Numbers.h"
+#include "common/ui/StationQString.h"
+#include "common/ui/Twips.h"
+#include "shell/SplitArrangement.h"
+#include "shell/Tiling.h"
+#include "shell/ui/frmMain.h"
+#include "splitlogs/SplitLogTable.h"
+#include "splitlogs/SplitSettings.h"
+#include "splitlogs/ui/frmSplit.h"
+
+namespace logchecker {
+
+namespace {
+
+constexpr int kLeastTileWidth = 3000;  // twips, that of a split window
+
+}  // namespace
+
+frmSplit& frmMain::Window(int16_t split) { return static_cast<frmSplit&>(gSplits(split)); }
+
+void frmMain::UpdateSplitInfo() {
+  const int16_t active = gGeneralSettings.NumberActiveSplits;
+  splitsPanel_->setText(QString("%1 Splits").arg(active));
+  RequireSplitsInRange();
+  ArrangeSplits();
+  UnloadInactiveSplits();
+  mnuLogSettingsSep_->setVisible(active > 0);
+  if (active == 0) throw RunTimeError(kInvalidCall, "no split is active: NumberActiveSplits is 0");
+  area_->setActiveSubWindow(&Window(1));
+}
+
+void frmMain::ArrangeSplits() {
+  const int16_t active = gGeneralSettings.NumberActiveSplits;
+  // A window that is minimised or fills the frame can't be placed.
+  for (int16_t n = 1; n <= active; ++n) {
+    if (Window(n).isMinimized() || Window(n).isMaximized()) Window(n).showNormal();
+  }
+  const QSize inner = area_->viewport()->size();
+  SplitArrangement arrangement(ToTwips(inner.width()), ToTwips(inner.height()),
+                               ToTwips(Window(1).width()), active);
+  for (int16_t n = 1; n <= active; ++n) {
+    frmSplit& window = Window(n);
+    QAction* entry = mnuLogSettings_[static_cast<size_t>(n - 1)];
+    entry->setVisible(true);
+    if (Val(window.SplitNumberLabel()) == n) {
+      window.UpdateInfo();
+    } else {
+      window.SetSplitNumberLabel(std::to_string(n));
+    }
+    NameLogSettingsEntry(n);
+    const SplitArrangement::Place place = arrangement.Next(ToTwips(window.width()));
+    window.setGeometry(ToPixels(place.left), ToPixels(place.top), window.width(),
+                       ToPixels(place.height));
+    window.show();
+    window.lower();
+  }
+}
+
+void frmMain::NameLogSettingsEntry(int16_t split) {
+  mnuLogSettings_[static_cast<size_t>(split - 1)]->setText(
+      "Change the settings for " + AsMenuText(ToQString(SettingsOf(split).SplitName)));
+}
+
+// Their logs stay open, and their grids go with the windows.
+void frmMain::UnloadInactiveSplits() {
+  const auto first = static_cast<int16_t>(gGeneralSettings.NumberActiveSplits + 1);
+  for (int16_t n = first; n <= kMostSplits; ++n) {
+    QAction* entry = mnuLogSettings_[static_cast<size_t>(n - 1)];
+    entry->setText({});
+    entry->setVisible(false);
+    gSplits(n).SetSplitNumberLabel(std::to_string(n));
+    gSplits.Unload(n);
+  }
+}
+
+void frmMain::TileChildren() {
+  std::vector<QMdiSubWindow*> children;
+  for (QMdiSubWindow* child : area_->subWindowList(QMdiArea::CreationOrder)) {
+    if (!child->isHidden() && !child->isMinimized()) children.push_back(child);
+  }
+  const QSize inner = area_->viewport()->size();
+  const std::vector<TilePlace> places = TileVertically(
+      static_cast<int>(children.size()), inner.width(), inner.height(), ToPixels(kLeastTileWidth));
+  for (size_t i = 0; i < children.size(); ++i) {
+    const TilePlace& place = places[i];
+    children[i]->setGeometry(place.left, place.top, place.width, place.height);
+  }
+}
+
+}  // namespace logchecker

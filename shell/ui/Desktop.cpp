@@ -1,0 +1,70 @@
+#include "shell/ui/Desktop.h"
+
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "cartstore/Velmar_Cart_Routines.h"
+#include "common/ErrorState.h"
+#include "common/VersionData.h"
+#include "common/ui/Guard.h"
+#include "common/ui/Icons.h"
+#include "common/ui/QtUserInterface.h"
+#include "platform/StationText.h"
+#include "shell/LoadGeneralSettings.h"
+#include "shell/LoadLogs.h"
+#include "shell/ui/frmMain.h"
+
+namespace logchecker {
+
+namespace {
+
+constexpr int kEndedAtStart = 1;
+constexpr int kStopped = 3;
+
+// Before the toolkit takes its own out of them.
+std::string JoinedArguments(int argc, char** argv) {
+  std::string line;
+  for (int i = 1; i < argc; ++i) {
+    std::string argument;
+    FromArgument(argv[i], &argument);
+    line += (line.empty() ? "" : " ") + argument;
+  }
+  return line;
+}
+
+// Leaves at once: handlers of events are still on the stack, and none of them may go on.
+void Stop(const RunTimeError& error) {
+  static bool stopping = false;
+  if (!stopping) {
+    stopping = true;
+    Ui().SetMousePointer(MousePointer::kDefault);
+    Ui().Show({error.what(), MessageIcon::kCritical, MessageButtons::kOk, kProgramTitle});
+  }
+  CloseAudiowall();
+  CloseAllFiles();
+  std::fflush(nullptr);
+  std::_Exit(kStopped);
+}
+
+}  // namespace
+
+int RunDesktop(int argc, char** argv) {
+  SetCommandLine(JoinedArguments(argc, argv));
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName("logchecker");
+  QApplication::setApplicationVersion(kVersion);
+  QApplication::setWindowIcon(IconNamed("program"));
+  // The end of the program is the main window's, not that of the last window to close.
+  QApplication::setQuitOnLastWindowClosed(false);
+  QtUserInterface userInterface;
+  UseStopRoutine(Stop);
+  frmMain main;
+  bool started = false;
+  Guarded([&] { started = main.Load(); });
+  if (!started) return kEndedAtStart;
+  return main.HasEnded() ? 0 : QApplication::exec();
+}
+
+}  // namespace logchecker

@@ -1,0 +1,67 @@
+// The start of the program and its end.
+#include <QCoreApplication>
+#include <QMdiArea>
+
+#include "cartstore/Velmar_Cart_Routines.h"
+#include "common/Dates.h"
+#include "common/GeneralSettings.h"
+#include "common/UserInterface.h"
+#include "shell/LoadGeneralSettings.h"
+#include "shell/LoadLogs.h"
+#include "shell/ui/frmMain.h"
+#include "shell/ui/frmSplash.h"
+
+namespace logchecker {
+
+bool frmMain::Load() {
+  Splash().show();
+  Splash().SetCurrentAction("Getting Velmar KLT Settings...");
+  LoadGeneralSettings();
+  if (!PassFirstRunTest()) return false;
+  Splash().SetCurrentAction("Getting Audio Settings...");
+  LoadAudioSettings(kFamilySettingsFile, "");
+  Splash().SetCurrentAction("Opening Audiowall...");
+  if (!OpenStore()) {
+    UnloadSplash();
+    Unload();
+    return false;
+  }
+  show();
+  UpdateSplitInfo();
+  // The program's normal task is to check the logs of the coming day.
+  LoadLogs(Today() + 1);
+  TileChildren();
+  StartupComplete = true;
+  UnloadSplash();
+  return true;
+}
+
+bool frmMain::PassFirstRunTest() {
+  if (SettingsAreThere()) return true;
+  Ui().Show({"There was no configuration information entered", MessageIcon::kCritical,
+             MessageButtons::kOk, kProgramTitle});
+  UnloadSplash();
+  Unload();
+  return false;
+}
+
+bool frmMain::OpenStore() { return OpenAudiowall(0, false) == 0; }
+
+frmSplash& frmMain::Splash() {
+  if (!splash_) splash_ = new frmSplash;
+  return *splash_;
+}
+
+void frmMain::UnloadSplash() { delete splash_; }
+
+// Asks nothing: settings are written when their dialogs are confirmed. The logs go with all the
+// other files.
+void frmMain::Unload() {
+  if (ended_) return;
+  ended_ = true;
+  CloseAudiowall();
+  CloseAllFiles();
+  QCoreApplication::exit(0);
+}
+
+}  // namespace logchecker

@@ -1,0 +1,162 @@
+#include "splitlogs/ui/LogGridView.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+#include <QScrollBar>
+#include <algorithm>
+
+#include "common/ui/Guard.h"
+#include "common/ui/Twips.h"
+#include "splitlogs/ui/LogRowDelegate.h"
+
+namespace logchecker {
+
+namespace {
+
+// What the frame and the scroll bar take of the grid's width, in twips.
+constexpr int kFrameWidth = 90;
+constexpr int kScrollBarWidth = 225;
+
+constexpr int kSmallestFont = 9;     // pixels
+constexpr int kTimeCellMargins = 5;  // pixels beside the time's text, the grid line included
+constexpr int kRowMargins = 4;       // pixels above and below a row's text
+
+}  // namespace
+
+LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
+    : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
+  setModel(model_);
+  setItemDelegate(new LogRowDelegate(this));
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setSelectionMode(QAbstractItemView::ContiguousSelection);
+  setEditTriggers(QAbstractItemView::NoEditTriggers);
+  setTabKeyNavigation(false);
+  setWordWrap(false);
+  setCornerButtonEnabled(false);
+  setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
+  setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+  verticalHeader()->hide();
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+  horizontalHeader()->setSectionsClickable(false);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setMinimumSectionSize(1);
+  SetUpColumns();
+  FitFont();
+  grid_.SetObserver(this);
+  connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
+          [this](int value) { OnScrolled(value); });
+}
+
+LogGridView::~LogGridView() { grid_.SetObserver(nullptr); }
+
+void LogGridView::SetUpColumns() {
+  for (int column = 0; column < kLogColumns; ++column) {
+    const int32_t width = kLogColumnHeaders[static_cast<size_t>(column)].width;
+    setColumnHidden(column, width == 0);
+    if (width > 0) setColumnWidth(column, ToPixels(width));
+  }
+}
+
+void LogGridView::FillDescriptionColumn() {
+  int others = 0;
+  for (int column = 0; column < kLogColumns; ++column) {
+    if (column != kDescriptionColumn) others += ToTwips(columnWidth(column));
+  }
+  const int filled = ToTwips(width()) - kFrameWidth - kScrollBarWidth - others;
+  setColumnWidth(kDescriptionColumn, std::max(filled / kTwipsPerPixel, 1));
+}
+
+// The columns' widths are given, so the text gives way: a time must be seen whole.
+void LogGridView::FitFont() {
+  QFont fitted = QApplication::font();
+  int size = QFontInfo(fitted).pixelSize();
+  const int room = columnWidth(kTimeColumn) - kTimeCellMargins;
+  do {
+    fitted.setPixelSize(size);
+  } while (QFontMetrics(fitted).horizontalAdvance("00:00") > room && --size >= kSmallestFont);
+  if (fitted == font()) return;
+  setFont(fitted);
+  horizontalHeader()->setFont(fitted);
+  verticalHeader()->setDefaultSectionSize(QFontMetrics(fitted).height() + kRowMargins);
+  verticalHeader()->setMinimumSectionSize(1);
+}
+
+void LogGridView::GridChanged() {
+  {
+    const QScopedValueRollback<bool> following(following_, true);
+    model_->Refresh();
+  }
+  SelectionChanged();
+}
+
+void LogGridView::SelectionChanged() {
+  const QScopedValueRollback<bool> following(following_, true);
+  const int rows = model_->rowCount();
+  const QItemSelectionModel::SelectionFlags replace = QItemSelectionModel::ClearAndSelect;
+  const int current = grid_.Row() - 1;
+  if (current >= 0 && current < rows) {
+    selectionModel()->setCurrentIndex(model_->index(current, kDescriptionColumn),
+                                      QItemSelectionModel::NoUpdate);
+  } else {
+    selectionModel()->clearCurrentIndex();
+  }
+  // The header can be in the grid's selection; what the view shows of it begins below.
+  const int first = std::max(std::min(grid_.Row(), grid_.SelectionEndRow()) - 1, 0);
+  const int last = std::min(std::max(grid_.Row(), grid_.SelectionEndRow()) - 1, rows - 1);
+  if (first <= last) {
+    selectionModel()->select(
+        QItemSelection(model_->index(first, 0), model_->index(last, kLogColumns - 1)), replace);
+  } else {
+    selectionModel()->clearSelection();
+  }
+  verticalScrollBar()->setValue(std::max(grid_.TopRow() - 1, 0));
+}
+
+void LogGridView::OnScrolled(int value) {
+  if (following_) return;
+  Guarded([&] {
+    const QScopedValueRollback<bool> following(following_, true);
+    if (value + 1 < grid_.Rows()) grid_.SetTopRow(value + 1);
+  });
+}
+
+void LogGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QTableView::currentChanged(current, previous);
+  if (following_ || !current.isValid()) return;
+  Guarded([&] {
+    const QScopedValueRollback<bool> following(following_, true);
+    if (current.row() + 1 < grid_.Rows()) grid_.SetRow(current.row() + 1);
+  });
+}
+
+void LogGridView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    emit breakChosen();
+    return;
+  }
+  QTableView::keyPressEvent(event);
+}
+
+void LogGridView::mouseReleaseEvent(QMouseEvent* event) {
+  QTableView::mouseReleaseEvent(event);
+  if (event->button() == Qt::LeftButton) emit breakChosen();
+}
+
+void LogGridView::changeEvent(QEvent* event) {
+  QTableView::changeEvent(event);
+  if (event->type() == QEvent::ApplicationFontChange) FitFont();
+}
+
+// Any row can be the top one, the last break's too, so that all the splits line up.
+void LogGridView::updateGeometries() {
+  QTableView::updateGeometries();
+  const QScopedValueRollback<bool> following(following_, true);
+  verticalScrollBar()->setMaximum(std::max(model_->rowCount() - 1, 0));
+  verticalScrollBar()->setValue(std::max(grid_.TopRow() - 1, 0));
+}
+
+}  // namespace logchecker

@@ -1,0 +1,46 @@
+// gridLog as the user sees it. The grid holds current row, selection and top row; the view follows
+// it, and tells it what the user does.
+#pragma once
+
+#include <QTableView>
+
+#include "splitlogs/ui/LogGridModel.h"
+
+namespace logchecker {
+
+class LogGridView : public QTableView, public LogGridObserver {
+  Q_OBJECT
+
+ public:
+  // `grid` must outlive the view.
+  explicit LogGridView(LogGrid& grid, QWidget* parent = nullptr);
+  ~LogGridView() override;
+
+  // Makes column 1 fill the view, by the grid's own figures.
+  void FillDescriptionColumn();
+
+  void GridChanged() override;
+  void SelectionChanged() override;
+
+ signals:
+  // A click anywhere on the grid, or Enter in it.
+  void breakChosen();
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void updateGeometries() override;
+
+ private:
+  void SetUpColumns();
+  void FitFont();
+  void OnScrolled(int value);
+
+  LogGrid& grid_;
+  LogGridModel* model_;
+  bool following_ = false;  // the view is being brought in line with the grid
+};
+
+}  // namespace logchecker

@@ -1,0 +1,44 @@
+#include "splitlogs/ui/LogRowDelegate.h"
+
+#include <QApplication>
+#include <QPainter>
+
+namespace logchecker {
+
+namespace {
+
+constexpr int kMargin = 2;       // pixels beside the text
+constexpr int kMarkerWidth = 3;  // of the bar that shows the selection in a coloured cell
+
+}  // namespace
+
+void LogRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                           const QModelIndex& index) const {
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const bool selected = cell.state.testFlag(QStyle::State_Selected);
+  const QVariant own = index.data(Qt::BackgroundRole);
+  const QPalette::ColorGroup group =
+      cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
+  QColor text = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
+  painter->save();
+  if (own.isValid()) {
+    painter->fillRect(cell.rect, own.value<QColor>());
+    text = index.data(Qt::ForegroundRole).value<QColor>();
+    if (selected) {
+      painter->fillRect(QRect(cell.rect.topLeft(), QSize(kMarkerWidth, cell.rect.height())),
+                        cell.palette.color(group, QPalette::Highlight));
+    }
+  } else if (selected) {
+    painter->fillRect(cell.rect, cell.palette.color(group, QPalette::Highlight));
+  }
+  painter->setPen(text);
+  painter->setFont(cell.font);
+  const QRect inner = cell.rect.adjusted(kMargin, 0, -kMargin, 0);
+  const QString shown = cell.fontMetrics.elidedText(QString(cell.text).replace('\n', ' '),
+                                                    Qt::ElideRight, inner.width() + 1);
+  painter->drawText(inner, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, shown);
+  painter->restore();
+}
+
+}  // namespace logchecker
