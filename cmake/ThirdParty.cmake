@@ -23,6 +23,9 @@ endif()
 
 if(LOGCHECKER_DESKTOP)
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg)
+  if(LOGCHECKER_TESTS)
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Test)
+  endif()
 endif()
 
 # Whether the target `rapidcheck` is there, for tests of properties.

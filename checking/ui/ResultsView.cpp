@@ -5,6 +5,7 @@
 #include <QMouseEvent>
 
 #include "common/Numbers.h"
+#include "common/ui/CellDelegate.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -20,6 +21,8 @@ constexpr int kScrollBarWidth = 255;
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
   setModel(model_);
+  setItemDelegate(new CellDelegate(this));
+  setFont(CompactFont());
   setRootIsDecorated(false);
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);
@@ -33,6 +36,7 @@ ResultsView::ResultsView(ListView& list, QWidget* parent)
   header()->setSectionsMovable(false);
   header()->setMinimumSectionSize(1);
   header()->setTextElideMode(Qt::ElideRight);
+  header()->setFont(CompactFont());
 }
 
 void ResultsView::Refresh() { model_->Refresh(); }

@@ -30,7 +30,7 @@ constexpr int kLeastWidth = 3000;
 constexpr int kMargin = 120;
 constexpr int kGap = 60;
 constexpr int kButtonSize = 375;
-constexpr int kListTop = 600;
+constexpr int kListTop = 660;
 constexpr int kProgressHeight = 240;
 
 constexpr int kIconPixels = 17;
@@ -54,6 +54,7 @@ frmCheckBreaks::frmCheckBreaks() : inner_(new QWidget) {
 void frmCheckBreaks::BuildControls() {
   Label1_ = new QLabel("These ad breaks did not match in all splits:", inner_);
   Label1_->setObjectName("Label1");
+  Label1_->setWordWrap(true);
   lvwResults_ = new ResultsView(check_.lvwResults, inner_);
   lvwResults_->setObjectName("lvwResults");
   lvwResults_->setAccessibleName(Label1_->text());
@@ -147,8 +148,8 @@ void frmCheckBreaks::LayOut() {
   const int printLeft = width - kMargin - kButtonSize;
   cmdPrint_->move(ToPixels(printLeft), ToPixels(kMargin));
   cmdSave_->move(ToPixels(printLeft - kGap - kButtonSize), ToPixels(kMargin));
-  Label1_->setGeometry(ToPixels(kMargin), ToPixels(kMargin),
-                       cmdSave_->x() - ToPixels(kMargin + kGap), ToPixels(kButtonSize));
+  Label1_->setGeometry(ToPixels(kMargin), ToPixels(kGap), cmdSave_->x() - ToPixels(kMargin + kGap),
+                       ToPixels(kListTop - 2 * kGap));
   const int progressTop = height - kProgressHeight - kGap;
   ProgressBar1_->setGeometry(ToPixels(kGap), ToPixels(progressTop), ToPixels(width - kMargin),
                              ToPixels(kProgressHeight));

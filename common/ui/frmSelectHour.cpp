@@ -86,6 +86,8 @@ void frmSelectHour::Connect() {
   connect(ui_->TimeP, &HourDial::doubleClicked, this, [this] { ui_->OKB->click(); });
   connect(ui_->OKB, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->CancelB, &QPushButton::clicked, this, [this] { OnCancel(); });
+  // The toolkit turns left and right of its scroll bars about.
+  ui_->DayScroll->setInvertedControls(false);
   ui_->YearScroll->installEventFilter(this);
   ui_->DayScroll->installEventFilter(this);
   ui_->TimeT->installEventFilter(this);
@@ -280,11 +282,18 @@ bool frmSelectHour::FilterDayScroll(QEvent* event) {
     }
   }
   if (event->type() != QEvent::KeyPress) return false;
-  const int key = static_cast<QKeyEvent*>(event)->key();
-  if (key != Qt::Key_Up && key != Qt::Key_Down) return false;
-  ui_->DayScroll->triggerAction(key == Qt::Key_Up ? QAbstractSlider::SliderPageStepSub
-                                                  : QAbstractSlider::SliderPageStepAdd);
-  return true;
+  switch (static_cast<QKeyEvent*>(event)->key()) {
+    case Qt::Key_Up:
+    case Qt::Key_PageUp:
+      ui_->DayScroll->triggerAction(QAbstractSlider::SliderPageStepSub);
+      return true;
+    case Qt::Key_Down:
+    case Qt::Key_PageDown:
+      ui_->DayScroll->triggerAction(QAbstractSlider::SliderPageStepAdd);
+      return true;
+    default:
+      return false;
+  }
 }
 
 void frmSelectHour::FilterYearScroll(QEvent* event) {

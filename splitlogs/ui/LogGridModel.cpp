@@ -28,7 +28,8 @@ QVariant LogGridModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       return TextOf(row, column);
     case Qt::AccessibleTextRole:
-      return colour == kRed ? TextOf(row, column) + ", " + tr("no audio") : TextOf(row, column);
+      if (colour == kRed) return TextOf(row, column) + ", " + tr("no audio");
+      return grid_.Text(row, column).empty() ? tr("blank") : TextOf(row, column);
     case Qt::BackgroundRole:
       return colour == kGridOwnColour ? QVariant() : QVariant(ToQColor(colour, {}));
     case Qt::ForegroundRole:

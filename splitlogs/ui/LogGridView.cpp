@@ -8,9 +8,9 @@
 #include <QScrollBar>
 #include <algorithm>
 
+#include "common/ui/CellDelegate.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Twips.h"
-#include "splitlogs/ui/LogRowDelegate.h"
 
 namespace logchecker {
 
@@ -20,16 +20,12 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
-constexpr int kSmallestFont = 9;     // pixels
-constexpr int kTimeCellMargins = 5;  // pixels beside the time's text, the grid line included
-constexpr int kRowMargins = 4;       // pixels above and below a row's text
-
 }  // namespace
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
   setModel(model_);
-  setItemDelegate(new LogRowDelegate(this));
+  setItemDelegate(new CellDelegate(this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::ContiguousSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -70,19 +66,13 @@ void LogGridView::FillDescriptionColumn() {
   setColumnWidth(kDescriptionColumn, std::max(filled / kTwipsPerPixel, 1));
 }
 
-// The columns' widths are given, so the text gives way: a time must be seen whole.
 void LogGridView::FitFont() {
-  QFont fitted = QApplication::font();
-  int size = QFontInfo(fitted).pixelSize();
-  const int room = columnWidth(kTimeColumn) - kTimeCellMargins;
-  do {
-    fitted.setPixelSize(size);
-  } while (QFontMetrics(fitted).horizontalAdvance("00:00") > room && --size >= kSmallestFont);
+  const QFont fitted = CompactFont();
   if (fitted == font()) return;
   setFont(fitted);
   horizontalHeader()->setFont(fitted);
-  verticalHeader()->setDefaultSectionSize(QFontMetrics(fitted).height() + kRowMargins);
   verticalHeader()->setMinimumSectionSize(1);
+  verticalHeader()->setDefaultSectionSize(CompactRowHeight());
 }
 
 void LogGridView::GridChanged() {

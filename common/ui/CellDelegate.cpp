@@ -1,7 +1,9 @@
-#include "splitlogs/ui/LogRowDelegate.h"
+#include "common/ui/CellDelegate.h"
 
 #include <QApplication>
 #include <QPainter>
+
+#include "common/ui/Twips.h"
 
 namespace logchecker {
 
@@ -10,10 +12,31 @@ namespace {
 constexpr int kMargin = 2;       // pixels beside the text
 constexpr int kMarkerWidth = 3;  // of the bar that shows the selection in a coloured cell
 
+constexpr int kTimeColumnWidth = 500;  // twips, of the narrowest column of times
+constexpr int kTimeCellMargins = 5;    // pixels beside the time's text, the grid line included
+constexpr int kSmallestFont = 9;       // pixels
+constexpr int kRowMargins = 4;         // pixels above and below a row's text
+
 }  // namespace
 
-void LogRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
-                           const QModelIndex& index) const {
+QFont CompactFont() {
+  QFont fitted = QApplication::font();
+  int size = QFontInfo(fitted).pixelSize();
+  const int room = ToPixels(kTimeColumnWidth) - kTimeCellMargins;
+  do {
+    fitted.setPixelSize(size);
+  } while (QFontMetrics(fitted).horizontalAdvance("00:00") > room && --size >= kSmallestFont);
+  return fitted;
+}
+
+int CompactRowHeight() { return QFontMetrics(CompactFont()).height() + kRowMargins; }
+
+QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
+  return {QStyledItemDelegate::sizeHint(option, index).width(), CompactRowHeight()};
+}
+
+void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                         const QModelIndex& index) const {
   QStyleOptionViewItem cell = option;
   initStyleOption(&cell, index);
   const bool selected = cell.state.testFlag(QStyle::State_Selected);

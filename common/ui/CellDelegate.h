@@ -1,0 +1,26 @@
+// Draws the cells of tables whose columns are narrow: close to their edges, and with a cell's own
+// colour even where it is selected.
+#pragma once
+
+#include <QStyledItemDelegate>
+
+namespace logchecker {
+
+// The font of such tables: the program's own, made smaller until a time of day fits its column,
+// since the columns' widths are given.
+QFont CompactFont();
+// What a row of that font takes, in pixels.
+int CompactRowHeight();
+
+class CellDelegate : public QStyledItemDelegate {
+  Q_OBJECT
+
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option,
+             const QModelIndex& index) const override;
+  QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
+};
+
+}  // namespace logchecker
