@@ -143,8 +143,9 @@ void LogGridView::changeEvent(QEvent* event) {
 
 // Any row can be the top one, the last break's too, so that all the splits line up.
 void LogGridView::updateGeometries() {
-  QTableView::updateGeometries();
+  // The base shortens the range, which is no scrolling of the user's.
   const QScopedValueRollback<bool> following(following_, true);
+  QTableView::updateGeometries();
   verticalScrollBar()->setMaximum(std::max(model_->rowCount() - 1, 0));
   verticalScrollBar()->setValue(std::max(grid_.TopRow() - 1, 0));
 }
