@@ -1,0 +1,191 @@
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTimer>
+#include <QToolButton>
+
+#include "checking/ExportFolder.h"
+#include "checking/ui/frmCheckBreaks.h"
+#include "common/Registry.h"
+#include "common/SystemHelpers.h"
+#include "common/ui/QtUserInterface.h"
+#include "platform/HostPaths.h"
+#include "tests/checking/ui/ResultsTest.h"
+
+namespace logchecker {
+namespace {
+
+class ExportDialogTest : public ResultsTest {
+ protected:
+  ExportDialogTest() { RememberExportFolder(Path("x.csv")); }
+
+  static QLineEdit* Name(QDialog* dialog) { return Control<QLineEdit>(dialog, "fileNameEdit"); }
+  void Save() { Button("cmdSave")->click(); }
+  // Types a name and confirms, answering each question with Yes.
+  void SaveAs(const std::string& name, int questions = 1) {
+    DialogScript script([&](QDialog* dialog) {
+      QApplication::setActiveWindow(dialog);
+      Name(dialog)->setFocus();
+      Name(dialog)->setText(QString::fromStdString(name));
+      QTest::keyClick(Name(dialog), Qt::Key_Return);
+    });
+    for (int i = 0; i < questions; ++i) script.Answer(QMessageBox::Yes);
+    Save();
+  }
+  std::string Stored() {
+    return GetRegistryString(kCurrentUserRoot, kExportKey, kExportValue, "no value");
+  }
+};
+
+TEST_F(ExportDialogTest, OffersTheRememberedFolderAndTheFilters) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    ASSERT_NE(files, nullptr);
+    EXPECT_EQ(files->windowTitle(), "Export Results to CSV File...");
+    EXPECT_EQ(files->nameFilters(),
+              QStringList({"Comma Separated Variable Files (*.CSV)", "All Files (*.*)"}));
+    EXPECT_EQ(files->defaultSuffix(), "CSV");
+    EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_EQ(Name(dialog)->text(), "*.CSV");
+    EXPECT_EQ(files->directory().canonicalPath().toStdString(), ToHostPath(folder().Path()));
+    dialog->reject();
+  });
+  Save();
+}
+
+TEST_F(ExportDialogTest, CancelEndsInSilenceAndStoresNothing) {
+  Check();
+  SetRegistryString(kCurrentUserRoot, kExportKey, kExportValue, "elsewhere", "");
+  DialogScript script([](QDialog* dialog) { dialog->reject(); });
+  Save();
+  EXPECT_TRUE(ui.messages.empty());
+  EXPECT_EQ(Stored(), "elsewhere");
+}
+
+TEST_F(ExportDialogTest, TheFileGetsItsExtensionTheFolderItsMemoryAndTheUserAMessage) {
+  Check();
+  SaveAs("report");
+  EXPECT_EQ(folder().ReadFile("report.CSV"),
+            "\"Time\",\"North & <b>\",\"South\"\r\n\"07:00\",\":30.00\",\"Not Found\"\r\n"
+            "\"08:00\",\":20.00\",\"Not Found\"\r\n\"08:01\",\"Not Found\",\":20.00\"\r\n");
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_EQ(ui.messages[0].text,
+            "Your Check Split Times Report has been saved into " + ToHostPath(Path("report.CSV")));
+  EXPECT_EQ(ui.messages[0].icon, MessageIcon::kInformation);
+  EXPECT_EQ(Stored(), ToHostPath(folder().Path()));
+}
+
+TEST_F(ExportDialogTest, ASecondExportOffersTheSameFileAndAsksBeforeItReplacesIt) {
+  Check();
+  SaveAs("report");
+  folder().WriteFile("report.CSV", "old");
+  {
+    DialogScript script([&](QDialog* dialog) {
+      EXPECT_EQ(Name(dialog)->text(), "report.CSV");
+      QTest::keyClick(Name(dialog), Qt::Key_Return);
+      QTimer::singleShot(0, dialog, &QDialog::reject);
+    });
+    script.Answer(QMessageBox::No);
+    Save();
+    EXPECT_EQ(script.Texts(), QStringList("report.CSV already exists.\n\nReplace it?"));
+  }
+  EXPECT_EQ(folder().ReadFile("report.CSV"), "old");
+  SaveAs("report.CSV");
+  EXPECT_NE(folder().ReadFile("report.CSV"), "old");
+}
+
+TEST_F(ExportDialogTest, ANewFileIsAskedForToo) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    Name(dialog)->setText("fresh");
+    QTest::keyClick(Name(dialog), Qt::Key_Return);
+    QTimer::singleShot(0, dialog, &QDialog::reject);
+  });
+  script.Answer(QMessageBox::No);
+  Save();
+  EXPECT_FALSE(folder().Exists("fresh.CSV"));
+}
+
+TEST_F(ExportDialogTest, TwoSelectedRowsAreExportedAloneAndOneStandsForAll) {
+  Check();
+  ClickRow(0);
+  SaveAs("one");
+  ClickRow(2, Qt::ControlModifier);
+  SaveAs("two");
+  EXPECT_EQ(folder().ReadFile("one.CSV").size(), 120U);
+  EXPECT_EQ(folder().ReadFile("two.CSV"),
+            "\"Time\",\"North & <b>\",\"South\"\r\n\"07:00\",\":30.00\",\"Not Found\"\r\n"
+            "\"08:01\",\"Not Found\",\":20.00\"\r\n");
+}
+
+TEST_F(ExportDialogTest, AnExportIntoTheDocumentsFolderLeavesNoValue) {
+  Check();
+  const std::string documents = GetSpecialPath(kDocumentsFolder);
+  ASSERT_FALSE(documents.empty());
+  RememberExportFolder(documents + "/x.csv");
+  EXPECT_EQ(Stored(), "no value");
+}
+
+TEST_F(ExportDialogTest, AFileThatCantBeOpenedIsSaidAndTheFolderStaysRemembered) {
+  Check();
+  os.script.FailNamed("Files.OpenForOutput", 1, kPermissionDenied);
+  SaveAs("report");
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_EQ(ui.messages[0].text.find("There was a problem opening the file "), 0U);
+  EXPECT_NE(ui.messages[0].text.find(" to export to"), std::string::npos);
+  EXPECT_EQ(Stored(), ToHostPath(folder().Path()));
+}
+
+TEST_F(ExportDialogTest, AWriteThatFailsPartWaySaysNothing) {
+  Check();
+  os.script.FailNamed("Files.Write", 2, kDiskFull);
+  SaveAs("report");
+  EXPECT_TRUE(ui.messages.empty());
+  EXPECT_EQ(StoppedBy(), 0);
+  EXPECT_EQ(ui.pointer, MousePointer::kDefault);
+  EXPECT_FALSE(folder().Exists("report.CSV"));
+}
+
+TEST_F(ExportDialogTest, AWildcardFiltersAndSavesNothing) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    QTest::keyClick(Name(dialog), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->reject();
+  });
+  Save();
+  EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(ExportDialogTest, ANameThatTheCodePageCantHoldIsRefusedWithAMessage) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    Name(dialog)->setText(QString::fromUtf8("\xE2\x98\x83"));  // a snowman
+    QTest::keyClick(Name(dialog), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    dialog->reject();
+  });
+  Save();
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_EQ(ui.messages[0].text.find("The file's name has characters"), 0U);
+}
+
+TEST_F(ExportDialogTest, ANameWithMarkupIsPlainText) {
+  Check();
+  folder().WriteFile("<b>x.CSV", "old");
+  DialogScript script([&](QDialog* dialog) {
+    Name(dialog)->setText("<b>x.CSV");
+    QTest::keyClick(Name(dialog), Qt::Key_Return);
+    QTimer::singleShot(0, dialog, &QDialog::reject);
+  });
+  script.Then([](QDialog* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    box->reject();
+  });
+  Save();
+}
+
+}  // namespace
+}  // namespace logchecker
