@@ -35,6 +35,9 @@ class UserInterface {
   virtual void Yield() = 0;
   // How far a long job is, from 0 to `maximum`.
   virtual void ShowProgress(int32_t value, int32_t maximum) = 0;
+  // How far the copying or moving of a file is, in bytes; shown where it takes its time.
+  virtual void ShowFileProgress(const std::string& /*title*/, int64_t /*done*/, int64_t /*total*/) {
+  }
 };
 
 // The one in force. Before any is set, nobody is there: nothing is shown, and a question is

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace logchecker {
@@ -13,6 +14,10 @@ struct FileOperation {
   intptr_t ownerWindow = 0;
   bool move = false;
   bool confirm = false;  // ask before replacing and before making folders
+  // Where the system has no windows of its own for it: is told of each part that is done, and asked
+  // before a file is replaced. Either may be empty.
+  std::function<void(int64_t done, int64_t total)> progress;
+  std::function<bool(const std::string& file)> mayReplace;
 };
 
 class Shell {

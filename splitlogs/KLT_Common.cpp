@@ -3,6 +3,7 @@
 #include "common/ErrorState.h"
 #include "common/GeneralFunctions.h"
 #include "platform/Platform.h"
+#include "splitlogs/LogNameText.h"
 #include "splitlogs/SplitSettings.h"
 
 namespace logchecker {
@@ -13,9 +14,7 @@ std::string GetLogFileName(int16_t splitNumber, int32_t logDate, bool useReconci
   const SplitSettings& settings = SettingsOf(splitNumber);
   const std::string& extension = useReconcile ? settings.ReconcileExtension : settings.Extension;
   const std::string date = FormatDate(logDate, settings.DateFormat).value_or(settings.DateFormat);
-  const std::string title =
-      settings.Suffix != 0 ? date + settings.PreSuffix : settings.PreSuffix + date;
-  return title + "." + extension;
+  return LogNameText(date, settings.PreSuffix, settings.Suffix != 0, extension);
 }
 
 std::string GetLogSourcePath(int16_t splitNumber, int32_t logDate, bool useReconcile) {

@@ -2,6 +2,7 @@
 
 #include <QDir>
 
+#include "common/ui/StationQString.h"
 #include "platform/HostPaths.h"
 
 namespace logchecker {
@@ -10,6 +11,10 @@ QString HostFolder(const std::string& stationPath) {
   if (stationPath.empty()) return {};
   const QString path = QString::fromStdString(ToHostPath(stationPath));
   return QDir(path).exists() ? path : QString();
+}
+
+bool StationFolder(const QString& hostPath, std::string* stationPath) {
+  return FromQString(QString::fromStdString(FromHostPath(hostPath.toStdString())), stationPath);
 }
 
 }  // namespace logchecker

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QProgressDialog>
 #include <utility>
 
 #include "common/ui/StationQString.h"
@@ -82,6 +83,24 @@ void QtUserInterface::Yield() { QApplication::processEvents(); }
 
 void QtUserInterface::ShowProgress(int32_t value, int32_t maximum) {
   if (TheWatcher()) TheWatcher()(value, maximum);
+}
+
+void QtUserInterface::ShowFileProgress(const std::string& title, int64_t done, int64_t total) {
+  constexpr int kMinimumDuration = 500;  // milliseconds
+  constexpr int kSteps = 1000;
+  if (done >= total) {
+    fileProgress_.reset();
+    return;
+  }
+  if (!fileProgress_) {
+    fileProgress_ = std::make_unique<QProgressDialog>(QApplication::activeWindow());
+    fileProgress_->setWindowTitle(AsTitle(ToQString(title)));
+    fileProgress_->setCancelButton(nullptr);
+    fileProgress_->setMinimumDuration(kMinimumDuration);
+    fileProgress_->setWindowModality(Qt::ApplicationModal);
+    fileProgress_->setRange(0, kSteps);
+  }
+  fileProgress_->setValue(static_cast<int>(kSteps * done / total));
 }
 
 ProgressWatch::ProgressWatch(Watcher watcher)

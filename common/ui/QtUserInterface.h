@@ -2,8 +2,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "common/UserInterface.h"
+
+class QProgressDialog;
 
 namespace logchecker {
 
@@ -21,9 +24,12 @@ class QtUserInterface : public UserInterface {
   MousePointer CurrentMousePointer() override { return pointer_; }
   void Yield() override;
   void ShowProgress(int32_t value, int32_t maximum) override;
+  // A window for a copy that takes more than half a second; gone when the copy is done.
+  void ShowFileProgress(const std::string& title, int64_t done, int64_t total) override;
 
  private:
   MousePointer pointer_ = MousePointer::kDefault;
+  std::unique_ptr<QProgressDialog> fileProgress_;
   UserInterface& before_;
 };
 

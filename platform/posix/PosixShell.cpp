@@ -30,7 +30,8 @@ bool IsDirectory(const std::string& path) {
   return stat(path.c_str(), &facts) == 0 && S_ISDIR(facts.st_mode);
 }
 
-int32_t CopyFile(const std::string& from, const std::string& to) {
+int32_t CopyFile(const std::string& from, const std::string& to,
+                 const std::function<void(int64_t, int64_t)>& progress) {
   struct stat facts {};
   if (stat(from.c_str(), &facts) != 0) return ErrorFromErrno(errno, from);
   if (!S_ISREG(facts.st_mode)) return kPathFileAccess;
@@ -39,12 +40,15 @@ int32_t CopyFile(const std::string& from, const std::string& to) {
   Replacement copy;
   int32_t error = copy.Open(to);
   char part[65536];
+  int64_t done = 0;
   while (error == kNoError) {
     const ssize_t count = read(source, part, sizeof part);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) error = kDeviceIoError;
     if (count <= 0) break;
     error = copy.Append(part, static_cast<size_t>(count));
+    done += count;
+    if (progress) progress(done, facts.st_size);
   }
   close(source);
   return error == kNoError ? copy.Commit() : error;
@@ -75,8 +79,13 @@ int32_t PosixShell::Run(const FileOperation& operation) {
   const std::string from = HostPath(operation.from);
   std::string to = HostPath(operation.to);
   if (IsDirectory(to)) to += (to.back() == '/' ? "" : "/") + LastPart(from);
+  if (operation.confirm && operation.mayReplace && access(to.c_str(), F_OK) == 0) {
+    std::string target;
+    FromUtf8(to, &target);
+    if (!operation.mayReplace(target)) return kCancelled;
+  }
   if (operation.move && rename(from.c_str(), to.c_str()) == 0) return kNoError;
-  int32_t error = CopyFile(from, to);
+  int32_t error = CopyFile(from, to, operation.progress);
   if (error == kNoError && operation.move && unlink(from.c_str()) != 0) {
     error = ErrorFromErrno(errno, from);
   }

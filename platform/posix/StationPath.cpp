@@ -80,4 +80,17 @@ std::string HostPath(std::string_view stationPath) {
 
 std::string ToHostPath(std::string_view stationPath) { return HostPath(stationPath); }
 
+std::string FromHostPath(std::string_view hostPath) {
+  const std::string drives = HostWindowsFolder() + "/drives/";
+  if (hostPath.substr(0, drives.size()) != drives) return std::string(hostPath);
+  std::string path(hostPath.substr(drives.size()));
+  const std::string shares = "unc/";
+  const bool isShare = path.rfind(shares, 0) == 0;
+  const bool isDrive = path.size() == 1 || (path.size() > 1 && path[1] == '/');
+  if (!isShare && !isDrive) return std::string(hostPath);
+  std::replace(path.begin(), path.end(), '/', '\\');
+  if (isShare) return "\\\\" + path.substr(shares.size());
+  return path.substr(0, 1) + ":" + (path.size() > 1 ? path.substr(1) : "\\");
+}
+
 }  // namespace logchecker

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "platform/HostPaths.h"
 #include "platform/StationText.h"
 #include "platform/windows/WindowsApi.h"
@@ -76,5 +78,11 @@ std::string ToUpper(std::string_view stationText) {
 }
 
 std::string ToHostPath(std::string_view stationPath) { return ToUtf8(stationPath); }
+
+std::string FromHostPath(std::string_view hostPath) {
+  std::string path(hostPath);
+  std::replace(path.begin(), path.end(), '/', '\\');
+  return path;
+}
 
 }  // namespace logchecker

@@ -10,6 +10,7 @@
 #include "shell/LoadLogs.h"
 #include "shell/ui/frmMain.h"
 #include "shell/ui/frmSplash.h"
+#include "splitlogs/ui/frmLogFileSettings.h"
 
 namespace logchecker {
 
@@ -36,8 +37,19 @@ bool frmMain::Load() {
   return true;
 }
 
+// A machine that was never configured is asked for split 1. Without an answer the program ends at
+// once.
 bool frmMain::PassFirstRunTest() {
   if (SettingsAreThere()) return true;
+  {
+    frmLogFileSettings dialog(splash_);
+    dialog.Tag = "1";
+    dialog.exec();
+  }
+  if (SettingsAreThere()) {
+    LoadGeneralSettings();
+    return true;
+  }
   Ui().Show({"There was no configuration information entered", MessageIcon::kCritical,
              MessageButtons::kOk, kProgramTitle});
   UnloadSplash();
@@ -45,7 +57,12 @@ bool frmMain::PassFirstRunTest() {
   return false;
 }
 
-bool frmMain::OpenStore() { return OpenAudiowall(0, false) == 0; }
+// A store that can't be opened is asked for once.
+bool frmMain::OpenStore() {
+  if (OpenAudiowall(0, false) == 0) return true;
+  OnCartLocations();
+  return OpenAudiowall(0, false) == 0;
+}
 
 frmSplash& frmMain::Splash() {
   if (!splash_) splash_ = new frmSplash;

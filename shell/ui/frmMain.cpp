@@ -3,32 +3,31 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
+#include <QEventLoop>
 #include <QMdiArea>
 #include <QMdiSubWindow>
-#include <QMenuBar>
+#include <QMenu>
 #include <QScreen>
 #include <QShortcut>
-#include <QStatusBar>
-#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 
-#include "cartstore/Velmar_Cart_Routines.h"
+#include "cartstore/ui/frmCartLocations.h"
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
-#include "common/ui/ClickableLabel.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 #include "common/ui/frmSelectHour.h"
 #include "shell/LoadLogs.h"
+#include "shell/ui/frmGeneralSettings.h"
 #include "shell/ui/frmSplash.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
+#include "splitlogs/ui/frmLogFileSettings.h"
 #include "splitlogs/ui/frmSplit.h"
 
 namespace logchecker {
@@ -37,8 +36,6 @@ namespace {
 
 constexpr int kLeastHeight = 3000;  // twips
 constexpr QSize kDesignSize{1180, 760};
-constexpr int kIconPixels = 32;
-constexpr int kTimerInterval = 1000;  // milliseconds
 
 }  // namespace
 
@@ -79,113 +76,6 @@ frmMain::~frmMain() {
   gSplits.UnloadAll();
 }
 
-void frmMain::BuildToolbar() {
-  picToolbar_ = addToolBar("Jobs");
-  picToolbar_->setObjectName("picToolbar");
-  picToolbar_->setMovable(false);
-  picToolbar_->setFloatable(false);
-  const auto job = [this](const char* buttonName, const char* labelName, const char* caption,
-                          const char* tip, const char* icon, const char* key,
-                          void (frmMain::*handler)()) {
-    auto* button = new QToolButton;
-    button->setObjectName(buttonName);
-    button->setIcon(IconNamed(icon));
-    button->setIconSize(QSize(kIconPixels, kIconPixels));
-    button->setAutoRaise(true);
-    button->setToolTip(tip);
-    button->setAccessibleName(caption);
-    button->setAccessibleDescription(tip);
-    button->setFocusPolicy(Qt::StrongFocus);
-    button->setShortcut(QKeySequence(key));
-    auto* label = new ClickableLabel;
-    label->setObjectName(labelName);
-    label->setText(caption);
-    label->setContentsMargins(2, 0, 14, 0);
-    const auto run = [this, handler] { Guarded([&] { (this->*handler)(); }); };
-    connect(button, &QToolButton::clicked, this, run);
-    connect(label, &ClickableLabel::clicked, this, run);
-    picToolbar_->addWidget(button);
-    picToolbar_->addWidget(label);
-    return button;
-  };
-  sftLoad_ = job("sftLoad", "lblLoadDay", "Load Day", "Load a days log", "load-day", "Ctrl+L",
-                 &frmMain::OnLoadDay);
-  sftCheckBreaks_ = job("sftCheckBreaks", "lblCheckDay", "Check Day",
-                        "Test each advert break to see if matches in each split", "check-day",
-                        "Ctrl+D", &frmMain::OnCheckDay);
-}
-
-QAction* frmMain::AddEntry(QMenu* menu, const char* name, const QString& caption,
-                           void (frmMain::*handler)()) {
-  QAction* entry = menu->addAction(caption);
-  entry->setObjectName(name);
-  // The toolkit would move entries to places of its own.
-  entry->setMenuRole(QAction::NoRole);
-  connect(entry, &QAction::triggered, this,
-          [this, handler] { Guarded([&] { (this->*handler)(); }); });
-  return entry;
-}
-
-void frmMain::BuildMenus() {
-  const auto menu = [this](const char* name, const char* caption) {
-    QMenu* made = menuBar()->addMenu(caption);
-    made->setObjectName(name);
-    return made;
-  };
-  const auto separator = [](QMenu* in, const char* name) {
-    QAction* made = in->addSeparator();
-    made->setObjectName(name);
-    return made;
-  };
-  QMenu* mnuFile = menu("mnuFile", "&File");
-  mnuPrint_ = AddEntry(mnuFile, "mnuPrint", "&Print", &frmMain::OnPrint);
-  mnuPrint_->setShortcut(QKeySequence("Ctrl+P"));
-  separator(mnuFile, "mnuExitSep");
-  AddEntry(mnuFile, "mnuFileExit", "E&xit", &frmMain::OnExit);
-
-  QMenu* mnuSettings = menu("mnuSettings", "&Settings");
-  AddEntry(mnuSettings, "mnuSettingsGeneral", "&General Settings", &frmMain::OnGeneralSettings);
-  AddEntry(mnuSettings, "mnuCartLocations", "&Cart Locations", &frmMain::OnCartLocations);
-  mnuLogSettingsSep_ = separator(mnuSettings, "mnuLogSettingsSep");
-  for (int16_t split = 1; split <= kMostSplits; ++split) {
-    QAction* entry = mnuSettings->addAction(QString("Split %1 Log Settings").arg(split));
-    entry->setObjectName(QString("mnuLogSettings%1").arg(split));
-    entry->setMenuRole(QAction::NoRole);
-    connect(entry, &QAction::triggered, this,
-            [this, split] { Guarded([&] { OnLogSettings(split); }); });
-    mnuLogSettings_[static_cast<size_t>(split - 1)] = entry;
-  }
-
-  mnuWindow_ = menu("mnuWindow", "&Window");
-  connect(mnuWindow_, &QMenu::aboutToShow, this, [this] { ListWindows(); });
-  AddEntry(menu("mnuHelp", "&Help"), "mnuAbout", "&About", &frmMain::OnAbout);
-}
-
-void frmMain::BuildStatusBar() {
-  statusBar()->setObjectName("StatusBar1");
-  splitsPanel_ = new QLabel("# Splits");
-  splitsPanel_->setObjectName("splits");
-  splitsPanel_->setTextFormat(Qt::PlainText);
-  splitsPanel_->setContentsMargins(6, 2, 12, 2);
-  splitsPanel_->setToolTip(
-      "This is the number of splits that can be controlled from this terminal");
-  statusBar()->addWidget(splitsPanel_);
-}
-
-// They do no work: nothing starts them, and a tick only stops its timer. No log and no cart list is
-// loaded by time.
-void frmMain::BuildTimers() {
-  const auto timer = [this](const char* name) {
-    auto* made = new QTimer(this);
-    made->setObjectName(name);
-    made->setInterval(kTimerInterval);
-    connect(made, &QTimer::timeout, made, &QTimer::stop);
-    return made;
-  };
-  tmrCartList_ = timer("tmrCartList");
-  tmrAdbreak_ = timer("tmrAdbreak");
-}
-
 void frmMain::LoadLogs(int32_t date) {
   logchecker::LoadLogs(date);
   setWindowTitle(AsTitle(ToQString(CaptionOfDay(date))));
@@ -219,11 +109,39 @@ void frmMain::OnPrint() {
 
 void frmMain::OnExit() { close(); }
 
-void frmMain::OnGeneralSettings() {}
+// Without making the dialog modal: the main window can be used meanwhile, this entry included, and
+// the program can be ended. Logs are not loaded again.
+void frmMain::OnGeneralSettings() {
+  if (!generalSettings_) generalSettings_ = new frmGeneralSettings(this);
+  generalSettings_->show();
+  generalSettings_->raise();
+  generalSettings_->activateWindow();
+  QEventLoop wait;
+  connect(generalSettings_, &frmGeneralSettings::hidden, &wait, &QEventLoop::quit);
+  wait.exec();
+  if (ended_) return;
+  delete generalSettings_;
+  UpdateSplitInfo();
+}
 
-void frmMain::OnCartLocations() {}
+// At the start of the program it stands over the splash.
+void frmMain::OnCartLocations() {
+  frmCartLocations dialog(isVisible() ? static_cast<QWidget*>(this) : splash_);
+  dialog.SettingsFile = "Velmar.ini";
+  dialog.exec();
+}
 
-void frmMain::OnLogSettings(int16_t /*split*/) {}
+// The split is read and loaded again whichever button closed the dialog.
+void frmMain::OnLogSettings(int16_t split) {
+  frmLogFileSettings dialog(this);
+  dialog.SetSplitNumberLabel(std::to_string(split));
+  dialog.Tag = "1";
+  dialog.exec();
+  LoadSplitSettings(gSettingsFile, split);
+  NameLogSettingsEntry(split);
+  gSplits(split).UpdateInfo();
+  gSplits(split).LoadLogFile();
+}
 
 void frmMain::OnAbout() {
   if (!splash_) splash_ = new frmSplash(this);

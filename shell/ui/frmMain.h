@@ -22,6 +22,7 @@ class QToolButton;
 namespace logchecker {
 
 class frmCheckBreaks;
+class frmGeneralSettings;
 class frmSelectHour;
 class frmSplash;
 class frmSplit;
@@ -102,6 +103,7 @@ class frmMain : public QMainWindow {
   std::unique_ptr<frmSelectHour> selectHour_;
   QPointer<frmSplash> splash_;
   QPointer<frmCheckBreaks> checkBreaks_;
+  QPointer<frmGeneralSettings> generalSettings_;
   bool printFollows_ = false;  // the results window has been active
   bool ended_ = false;
 };

@@ -1,0 +1,24 @@
+// What the dialogs' text boxes have in common.
+#pragma once
+
+class QLineEdit;
+
+namespace logchecker {
+
+// Selects the whole text of the box.
+void SelectAllText(QLineEdit& textBox);
+
+// From now on the box selects its whole text when it gets the focus.
+void SelectAllOnFocus(QLineEdit& textBox);
+
+// From now on each character typed into the box becomes an upper-case one.
+void TypeInUpperCase(QLineEdit& textBox);
+
+// From now on digits alone can be typed into the box; other text can still be pasted.
+void TypeDigitsOnly(QLineEdit& textBox);
+
+// From now on the box takes no character that the station's code page can't hold, since it would be
+// lost on its way to the file.
+void TakeStationTextOnly(QLineEdit& textBox);
+
+}  // namespace logchecker
