@@ -2,6 +2,7 @@
 #include <QAction>
 #include <QLabel>
 #include <QMenuBar>
+#include <QShortcut>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -38,7 +39,6 @@ void frmMain::BuildToolbar() {
     button->setAccessibleName(caption);
     button->setAccessibleDescription(tip);
     button->setFocusPolicy(Qt::StrongFocus);
-    button->setShortcut(QKeySequence(key));
     auto* label = new ClickableLabel;
     label->setObjectName(labelName);
     label->setText(caption);
@@ -46,6 +46,7 @@ void frmMain::BuildToolbar() {
     const auto run = [this, handler] { Guarded([&] { (this->*handler)(); }); };
     connect(button, &QToolButton::clicked, this, run);
     connect(label, &ClickableLabel::clicked, this, run);
+    connect(new QShortcut(QKeySequence(key), this), &QShortcut::activated, this, run);
     picToolbar_->addWidget(button);
     picToolbar_->addWidget(label);
     return button;

@@ -10,7 +10,11 @@ WindowTest::WindowTest()
         if (stoppedBy_ != 0) return;
         stoppedBy_ = error.number();
         concerning_ = error.concerning();
-      })) {}
+      })) {
+  // A test before this one may have ended its program; until the next loop none would run.
+  QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  QApplication::exec();
+}
 
 WindowTest::~WindowTest() { UseStopRoutine(before_); }
 

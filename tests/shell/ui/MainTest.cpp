@@ -1,0 +1,12 @@
+#include "tests/shell/ui/MainTest.h"
+
+#include "cartstore/Velmar_Cart_Routines.h"
+
+namespace logchecker {
+
+void MainTest::CloseStore() {
+  CloseAudiowall();
+  CloseAllFiles();
+}
+
+}  // namespace logchecker
