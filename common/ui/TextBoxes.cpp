@@ -38,7 +38,10 @@ class BoxFilter : public QObject {
 // The printable text of a key press; empty for any other event.
 QString TypedText(const QEvent& event) {
   if (event.type() != QEvent::KeyPress) return {};
-  const QString text = static_cast<const QKeyEvent&>(event).text();
+  const auto& key = static_cast<const QKeyEvent&>(event);
+  // Control alone is a command, such as that to paste; with Alt it types a further character.
+  if ((key.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) == Qt::ControlModifier) return {};
+  const QString text = key.text();
   return !text.isEmpty() && text.at(0).isPrint() ? text : QString();
 }
 

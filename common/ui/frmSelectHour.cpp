@@ -15,6 +15,7 @@
 #include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
+#include "common/ui/TextBoxes.h"
 #include "common/ui/Twips.h"
 #include "platform/Platform.h"
 #include "ui_frmSelectHour.h"
@@ -91,6 +92,7 @@ void frmSelectHour::Connect() {
   ui_->YearScroll->installEventFilter(this);
   ui_->DayScroll->installEventFilter(this);
   ui_->TimeT->installEventFilter(this);
+  TypeDigitsOnly(*ui_->TimeT);
 }
 
 void frmSelectHour::SetMinutes(const QString& minutes) { ui_->txtMinutes->setText(minutes); }
@@ -269,7 +271,7 @@ void frmSelectHour::closeEvent(QCloseEvent* event) {
 bool frmSelectHour::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ui_->DayScroll && FilterDayScroll(event)) return true;
   if (watched == ui_->YearScroll) FilterYearScroll(event);
-  if (watched == ui_->TimeT && FilterHour(event)) return true;
+  if (watched == ui_->TimeT) FilterHour(event);
   return QDialog::eventFilter(watched, event);
 }
 
@@ -301,17 +303,11 @@ void frmSelectHour::FilterYearScroll(QEvent* event) {
   if (event->type() == QEvent::FocusOut) SetColours(*ui_->lblYear, kButtonFace, kButtonText);
 }
 
-// The box takes typed digits, backspace and escape; other characters are dropped.
-bool frmSelectHour::FilterHour(QEvent* event) {
-  if (event->type() == QEvent::FocusIn) {
-    // After the press of the mouse that brought the focus.
-    QTimer::singleShot(0, ui_->TimeT,
-                       [this] { ui_->TimeT->setSelection(0, kLongestHourSelected); });
-  }
-  if (event->type() != QEvent::KeyPress) return false;
-  const QString typed = static_cast<QKeyEvent*>(event)->text();
-  if (typed.isEmpty() || !typed.at(0).isPrint()) return false;
-  return !IsTextOfKind(FromQString(typed), 1);
+void frmSelectHour::FilterHour(QEvent* event) {
+  if (event->type() != QEvent::FocusIn) return;
+  // After the press of the mouse that brought the focus.
+  QTimer::singleShot(0, ui_->TimeT,
+                     [this] { ui_->TimeT->setSelection(0, kLongestHourSelected); });
 }
 
 }  // namespace logchecker

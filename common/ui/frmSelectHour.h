@@ -59,7 +59,7 @@ class frmSelectHour : public QDialog {
   void SetDayLook(int16_t label, bool reverse);
   bool FilterDayScroll(QEvent* event);
   void FilterYearScroll(QEvent* event);
-  bool FilterHour(QEvent* event);
+  void FilterHour(QEvent* event);
 
   std::unique_ptr<Ui::frmSelectHour> ui_;
   int32_t day_ = 0;   // while the window becomes active
