@@ -1,0 +1,223 @@
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <new>
+
+#include "common/BrowsePath.h"
+#include "common/Messages.h"
+#include "common/ui/BrowseForFolder.h"
+#include "common/ui/Guard.h"
+#include "common/ui/HostFolder.h"
+#include "common/ui/Icons.h"
+#include "common/ui/ListViewModel.h"
+#include "common/ui/QtUserInterface.h"
+#include "common/ui/StationQString.h"
+#include "common/ui/SystemColours.h"
+#include "common/ui/TextBoxes.h"
+#include "common/ui/Twips.h"
+#include "platform/HostPaths.h"
+#include "platform/Platform.h"
+#include "tests/support/ui/WindowTest.h"
+
+namespace logchecker {
+namespace {
+
+using SharedPartsTest = WindowTest;
+
+TEST_F(SharedPartsTest, TwipsBecomeTheNearestPixel) {
+  EXPECT_EQ(ToPixels(500), 33);
+  EXPECT_EQ(ToPixels(8), 1);
+  EXPECT_EQ(ToPixels(7), 0);
+  EXPECT_EQ(ToPixels(-30), -2);
+  EXPECT_EQ(ToTwips(25), 375);
+}
+
+TEST_F(SharedPartsTest, TextFromOutsideStaysPlain) {
+  EXPECT_EQ(AsMenuText("A & B"), "A && B");
+  EXPECT_EQ(AsTitle("x[*]"), "x[*][*]");
+  EXPECT_FALSE(AsToolTip("<b>loud</b>").contains("<b>"));
+  EXPECT_EQ(ToQString("caf\xE9"), QString::fromUtf8("caf\xC3\xA9"));
+  std::string text;
+  EXPECT_TRUE(FromQString(QString::fromUtf8("\xE2\x82\xAC"), &text));
+  EXPECT_EQ(text, "\x80");
+  EXPECT_FALSE(FromQString(QString::fromUtf8("\xE2\x98\x83"), &text));
+}
+
+TEST_F(SharedPartsTest, RunTimeErrorsAndTheEndOfMemoryGoToTheStopRoutine) {
+  Guarded([] { throw std::bad_alloc(); });
+  EXPECT_EQ(StoppedBy(), kOutOfMemory);
+}
+
+TEST_F(SharedPartsTest, ColoursAreRedFirstOrTheDesktopsOwn) {
+  QPalette palette;
+  palette.setColor(QPalette::Highlight, QColor(1, 2, 3));
+  EXPECT_EQ(ToQColor(0x0000FF, palette), QColor(255, 0, 0));
+  EXPECT_EQ(ToQColor(0x800000, palette), QColor(0, 0, 128));
+  EXPECT_EQ(ToQColor(kHighlight, palette), QColor(1, 2, 3));
+  EXPECT_EQ(ToQColor(static_cast<int32_t>(0x800000FF), palette),
+            palette.color(QPalette::WindowText));
+}
+
+TEST_F(SharedPartsTest, EveryIconIsDrawnAtEveryScale) {
+  for (const char* name : {"program", "load-day", "check-day", "save", "print", "no-problems"}) {
+    for (const double scale : {1.0, 1.5, 2.0}) {
+      const QPixmap picture = IconNamed(name).pixmap(QSize(16, 16), scale);
+      EXPECT_EQ(picture.width(), qRound(16 * scale)) << name;
+      const QImage image = picture.toImage().convertToFormat(QImage::Format_ARGB32);
+      bool drawn = false;
+      for (int x = 0; x < image.width(); ++x) drawn = drawn || qAlpha(image.pixel(x, x)) > 0;
+      EXPECT_TRUE(drawn) << name;
+    }
+  }
+}
+
+TEST_F(SharedPartsTest, AMessageBoxShowsPlainTextAndGivesTheAnswer) {
+  QtUserInterface desktop;
+  desktop.SetMousePointer(MousePointer::kHourglass);
+  const struct {
+    QMessageBox::StandardButton button;
+    MessageAnswer answer;
+  } rows[] = {{QMessageBox::Yes, MessageAnswer::kYes},
+              {QMessageBox::No, MessageAnswer::kNo},
+              {QMessageBox::Cancel, MessageAnswer::kCancel}};
+  for (const auto& row : rows) {
+    DialogScript script;
+    script.Answer(row.button);
+    EXPECT_EQ(Ui().Show({"<b>sure?</b>", MessageIcon::kQuestion, MessageButtons::kYesNoCancel,
+                         "Title[*]"}),
+              row.answer);
+    EXPECT_EQ(script.Texts(), QStringList("<b>sure?</b>"));
+  }
+  EXPECT_EQ(desktop.CurrentMousePointer(), MousePointer::kHourglass);
+}
+
+TEST_F(SharedPartsTest, TheProblemMessageIsARealBox) {
+  QtUserInterface desktop;
+  DialogScript script([](QDialog* dialog) {
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->textFormat(), Qt::PlainText);
+    EXPECT_EQ(box->icon(), QMessageBox::Warning);
+    EXPECT_EQ(box->text(), "There was a problem opening it");
+    EXPECT_EQ(box->windowTitle(), "Velmar KLT Log Checker");
+    box->accept();
+  });
+  ShowErrorMessage("opening it", 0, false);
+}
+
+TEST_F(SharedPartsTest, TheHourglassIsTheWholeProgramsPointer) {
+  QtUserInterface desktop;
+  desktop.SetMousePointer(MousePointer::kHourglass);
+  desktop.SetMousePointer(MousePointer::kHourglass);
+  ASSERT_NE(QApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+  desktop.SetMousePointer(MousePointer::kDefault);
+  EXPECT_EQ(QApplication::overrideCursor(), nullptr);
+}
+
+TEST_F(SharedPartsTest, ProgressGoesToTheInnermostWatch) {
+  QtUserInterface desktop;
+  int outer = 0;
+  int inner = 0;
+  const ProgressWatch first([&](int32_t value, int32_t) { outer = value; });
+  {
+    const ProgressWatch second([&](int32_t value, int32_t) { inner = value; });
+    Ui().ShowProgress(5, 10);
+  }
+  Ui().ShowProgress(7, 10);
+  EXPECT_EQ(inner, 5);
+  EXPECT_EQ(outer, 7);
+}
+
+TEST_F(SharedPartsTest, AListShowsItsRowsWithMissingSubItemsEmpty) {
+  ListView list;
+  list.ColumnHeaders = {{"A", 800, ColumnAlignment::kLeft},
+                        {"B", 0, ColumnAlignment::kRight},
+                        {"C", 0, ColumnAlignment::kCentre}};
+  list.ListItems.push_back({"k", "one", {{"two", true}}, false, false});
+  ListViewModel model(list);
+  EXPECT_EQ(model.index(0, 0).data().toString(), "one");
+  EXPECT_EQ(model.index(0, 1).data().toString(), "two");
+  EXPECT_EQ(model.index(0, 2).data().toString(), "");
+  EXPECT_TRUE(model.index(0, 1).data(Qt::FontRole).value<QFont>().bold());
+  EXPECT_FALSE(model.index(0, 0).data(Qt::FontRole).isValid());
+  list.ListItems.push_back({"l", "three", {}, false, false});
+  EXPECT_EQ(model.rowCount(), 1);
+  model.TakeAddedRows();
+  EXPECT_EQ(model.rowCount(), 2);
+  list.ListItems.clear();
+  EXPECT_FALSE(model.index(1, 0).data().isValid()) << "a row that is gone";
+}
+
+TEST_F(SharedPartsTest, TheFolderChooserStartsWhereTheTextPointsHoweverItIsWritten) {
+  Os().directories.MakeDirectory(Path("drives"));
+  Os().directories.MakeDirectory(Path("drives") + "/c");
+  Os().directories.MakeDirectory(Path("drives") + "/c/Logs");
+  const std::string host = ToHostPath(Path("drives") + "/c/Logs");
+  std::string upper = Path("drives") + "/c/Logs";
+  for (char& c : upper) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  const std::string starts[] = {"C:\\LOGS", "c:/logs/", upper, "C:\\logs\\"};
+  for (const std::string& start : starts) {
+    DialogScript script([&](QDialog* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      EXPECT_EQ(QDir(files->directory()).canonicalPath().toStdString(), host) << start;
+      EXPECT_EQ(files->windowTitle(), "Title");
+      dialog->reject();
+    });
+    EXPECT_EQ(BrowseForFolder(nullptr, "Title", start, true, {}), "");
+    EXPECT_EQ(gBrowseStartPath, start);
+  }
+}
+
+TEST_F(SharedPartsTest, AChosenDriveComesBackWithoutItsBackslash) {
+  Os().directories.MakeDirectory(Path("drives"));
+  Os().directories.MakeDirectory(Path("drives") + "/c");
+  Os().directories.MakeDirectory(Path("drives") + "/c/Logs");
+  const auto accept = [](QDialog* dialog) {
+    Control<QLineEdit>(dialog, "fileNameEdit")->clear();
+    QMetaObject::invokeMethod(dialog, "accept");
+  };
+  {
+    DialogScript script(accept);
+    EXPECT_EQ(BrowseForFolder(nullptr, "T", "C:", true, {}), "c:");
+  }
+  {
+    DialogScript script(accept);
+    EXPECT_EQ(BrowseForFolder(nullptr, "T", "C:\\logs", true, {}), "c:\\Logs");
+  }
+}
+
+TEST_F(SharedPartsTest, ACallersOwnCallbackTakesThePlaceOfTheBuiltInOne) {
+  std::vector<std::string> told;
+  DialogScript script([&](QDialog* dialog) {
+    EXPECT_EQ(Control<QLabel>(dialog, "lblStatus")->text(), "mine");
+    dialog->reject();
+  });
+  BrowseForFolder(nullptr, "T", "C:\\x", false,
+                  [&](BrowseDialog& dialog, BrowseMessage message, const std::string& path) {
+                    if (message == BrowseMessage::kInitialized) told.push_back(path);
+                    dialog.SetStatusText("mine");
+                  });
+  EXPECT_EQ(told, std::vector<std::string>{"C:\\x"});
+}
+
+TEST_F(SharedPartsTest, TheFolderInHandShowsAsTheStatusText) {
+  Os().directories.MakeDirectory(Path("inner"));
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    emit files->directoryEntered(QString::fromStdString(ToHostPath(Path("inner"))));
+    EXPECT_EQ(Control<QLabel>(dialog, "lblStatus")->text().toStdString(), Path("inner"));
+    dialog->reject();
+  });
+  BrowseForFolder(nullptr, "T", folder().Path(), true, {});
+}
+
+TEST_F(SharedPartsTest, ABoxKeepsItsSelectionRule) {
+  QLineEdit box("some text");
+  SelectAllText(box);
+  EXPECT_EQ(box.selectedText(), "some text");
+}
+
+}  // namespace
+}  // namespace logchecker
