@@ -6,10 +6,12 @@
 
 #include <cerrno>
 #include <ctime>
+#include <filesystem>
 #include <map>
 
 #include "platform/ErrorNumbers.h"
 #include "platform/posix/Replacement.h"
+#include "platform/posix/StationPath.h"
 
 namespace logchecker {
 
@@ -86,8 +88,21 @@ bool ReadProfileForChange(const std::string& hostPath, ProfileText* text) {
   return missing || S_ISCHR(facts.st_mode);
 }
 
+namespace {
+
+// Windows always has its folder; here the first file that is written into it makes it.
+void MakeWindowsFolderOf(const std::string& hostPath) {
+  const std::string& folder = HostWindowsFolder();
+  if (hostPath.rfind(folder + "/", 0) != 0) return;
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+}
+
+}  // namespace
+
 int32_t WriteProfile(const std::string& hostPath, const ProfileText& text) {
   KnownProfiles().erase(hostPath);
+  MakeWindowsFolderOf(hostPath);
   return ReplaceFile(hostPath, text.Bytes());
 }
 

@@ -43,6 +43,7 @@ void frmMain::BuildToolbar() {
     label->setObjectName(labelName);
     label->setText(caption);
     label->setContentsMargins(2, 0, 14, 0);
+    label->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     const auto run = [this, handler] { Guarded([&] { (this->*handler)(); }); };
     connect(button, &QToolButton::clicked, this, run);
     connect(label, &ClickableLabel::clicked, this, run);

@@ -1,0 +1,99 @@
+#!/usr/bin/env python3
+"""A day's work on a freshly written sample station, by real keys and a real mouse: see tomorrow, check
+it, click through what differs, save it, load another day, check and save that, and leave. The saved
+files must be logcheck's, byte for byte."""
+
+import datetime
+import pathlib
+import re
+import subprocess
+import sys
+
+import screen
+
+BIN = pathlib.Path(sys.argv[1])
+
+
+def caption(day):
+    return f"Velmar KLT Log Checker : {day:%A} {day.day} {day:%B %Y}$"
+
+
+def save(desk, path):
+    """Exports the results from the keyboard. The list has the focus."""
+    desk.keys("Tab", "space")
+    desk.window("^Export Results to CSV File", "save dialog")
+    desk.keys("ctrl+a")
+    desk.type(str(path))
+    desk.keys("Return")
+    desk.window("^Export Results to CSV File", "question about the new file")
+    desk.keys("Return")
+    box = desk.window("^Velmar KLT Log Checker$", "message about the saved report")
+    desk.keys("Return")
+    desk.gone(box)
+
+
+def expected(config, day):
+    done = subprocess.run([BIN / "logcheck", "check", "--settings", config / "velmar", "--format",
+                           "csv", "--date", day.isoformat()], capture_output=True, check=False)
+    assert done.returncode in (0, 1), done.stderr
+    return done.stdout
+
+
+def main():
+    with screen.Screen() as desk:
+        config = desk.folder / "config"
+        tomorrow = datetime.date.today() + datetime.timedelta(days=1)
+        subprocess.run([BIN / "logcheck", "sample", config / "velmar", "--date",
+                        tomorrow.isoformat(), "--days", "3"], check=True,
+                       stdout=subprocess.DEVNULL)
+        program = desk.start(BIN / "logchecker")
+        frame = desk.window(caption(tomorrow), "main window with tomorrow in it")
+
+        # Check the day with the mouse, on the label beside the button.
+        before, after = desk.folder / "before.png", desk.folder / "after.png"
+        desk.picture(before)
+        desk.click(frame, 180, 44)
+        geometry = desk.tool("getwindowgeometry", "--shell", frame)
+        values = dict(pair.split("=") for pair in geometry)
+        left, top = int(values["X"]), int(values["Y"])
+        width = int(values["WIDTH"])
+        middle = f"300x200+{left + width // 2 - 150}+{top + 300}"
+        desk.until(lambda: desk.picture(after) or desk.difference(before, after, middle) > 1000,
+                   "results window")
+
+        # A click on the second row lines the first split up on another break.
+        desk.picture(before)
+        rows_left = width // 2 - 140
+        first_split = f"180x500+{left + 20}+{top + 120}"
+        for height in range(260, 420, 13):
+            desk.click(frame, rows_left, height)
+            desk.picture(after)
+            if desk.difference(before, after, first_split) > 1000:
+                break
+        else:
+            raise AssertionError("no click on a row lined the splits up")
+
+        report = desk.folder / "tomorrow.csv"
+        # The click has selected one row, which stands for the whole list.
+        save(desk, report)
+        assert report.read_bytes() == expected(config, tomorrow), report.read_bytes()
+
+        # Another day, from the keyboard alone.
+        desk.keys("ctrl+l")
+        picker = desk.window("^Select Time$", "picker of the day")
+        desk.keys("Right", "Right", "Return")
+        desk.gone(picker)
+        later = tomorrow + datetime.timedelta(days=2)
+        desk.until(lambda: re.search(caption(later), desk.name(frame)), "caption of the other day")
+        desk.keys("ctrl+d")
+        report = desk.folder / "later.csv"
+        save(desk, report)
+        assert report.read_bytes() == expected(config, later), report.read_bytes()
+
+        desk.keys("Escape")
+        desk.keys("alt+f", "x")
+        assert program.wait(timeout=30) == 0, program.stderr.read()
+        print("a day's work is done")
+
+
+main()

@@ -1,0 +1,134 @@
+"""A screen of its own, with a window manager, real keys and a real mouse."""
+
+import os
+import pathlib
+import re
+import shutil
+import subprocess
+import tempfile
+import time
+
+NEEDED = ("Xvfb", "xdotool", "openbox", "xprop", "import", "compare")
+
+
+class Screen:
+    """An X server without a monitor. `size` in pixels."""
+
+    def __init__(self, size=(1280, 1024)):
+        missing = [tool for tool in NEEDED if shutil.which(tool) is None]
+        if missing:
+            raise SystemExit("missing: " + " ".join(missing))
+        read, write = os.pipe()
+        self.server = subprocess.Popen(
+            ["Xvfb", "-displayfd", str(write), "-screen", "0", f"{size[0]}x{size[1]}x24",
+             "-nolisten", "tcp"],
+            pass_fds=(write,), stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            self.display = ":" + pipe.readline().strip()
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="logchecker-screen-"))
+        self.environment = dict(os.environ, DISPLAY=self.display, HOME=str(self.folder),
+                                XDG_RUNTIME_DIR=str(self.folder), LC_ALL="C.UTF-8",
+                                XDG_CONFIG_HOME=str(self.folder / "config"),
+                                QT_QPA_PLATFORM="xcb")
+        self.environment.pop("XDG_DOCUMENTS_DIR", None)
+        self.folder.joinpath("config").mkdir()
+        self.manager = subprocess.Popen(["openbox"], env=self.environment,
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.programs = []
+        self.seen = set()
+        self.until(self.manager_is_ready, "window manager")
+
+    def manager_is_ready(self):
+        done = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"],
+                              env=self.environment, capture_output=True, text=True, check=False)
+        return "window id" in done.stdout
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        for process in self.programs + [self.manager, self.server]:
+            if process.poll() is None:
+                process.kill()
+            process.wait()
+        shutil.rmtree(self.folder, ignore_errors=True)
+
+    def tool(self, *arguments):
+        done = subprocess.run(["xdotool", *map(str, arguments)], env=self.environment,
+                              capture_output=True, text=True, check=False)
+        return done.stdout.split()
+
+    def start(self, *command, config=None):
+        environment = dict(self.environment)
+        if config is not None:
+            environment["XDG_CONFIG_HOME"] = str(config)
+        self.seen = set(self.windows())
+        process = subprocess.Popen(list(map(str, command)), env=environment,
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.programs.append(process)
+        return process
+
+    def windows(self):
+        return self.tool("search", "--onlyvisible", "--name", ".")
+
+    def name(self, window):
+        done = subprocess.run(["xdotool", "getwindowname", window], env=self.environment,
+                              capture_output=True, text=True, check=False)
+        return done.stdout.rstrip("\n")
+
+    def until(self, condition, what, seconds=30):
+        """Waits for a condition; fails loudly when it doesn't come true."""
+        end = time.monotonic() + seconds
+        while time.monotonic() < end:
+            result = condition()
+            if result:
+                return result
+            time.sleep(0.02)
+        self.picture("/tmp/logchecker-screen-failure.png")
+        ended = [f"; {p.args[0]} ended with {p.returncode}: {p.stderr.read().decode()}"
+                 for p in self.programs if p.poll() is not None]
+        raise AssertionError(f"no {what}; on the screen: " +
+                             ", ".join(repr(self.name(w)) for w in self.windows()) +
+                             "".join(ended))
+
+    def window(self, pattern, what=None, new=True):
+        """The window whose name matches and that has the focus; a new one unless told otherwise."""
+        def found():
+            for window in self.windows():
+                if new and window in self.seen:
+                    continue
+                if re.search(pattern, self.name(window)):
+                    return window
+            return None
+        window = self.until(found, what or f"window {pattern!r}")
+        self.seen.add(window)
+        self.until(lambda: self.tool("getactivewindow") == [window] or
+                   self.tool("windowactivate", "--sync", window) is None,
+                   f"focus on {pattern!r}")
+        return window
+
+    def gone(self, window):
+        self.until(lambda: window not in self.windows(), f"end of the window {self.name(window)!r}")
+
+    def keys(self, *keys):
+        self.tool("key", "--clearmodifiers", "--delay", 20, *keys)
+
+    def type(self, text):
+        subprocess.run(["xdotool", "type", "--clearmodifiers", "--delay", "8", "--file", "-"],
+                       input=text, text=True, env=self.environment, check=True)
+
+    def click(self, window, x, y):
+        """Presses the left button at a place inside a window."""
+        self.tool("mousemove", "--window", window, x, y, "click", 1)
+
+    def picture(self, path):
+        subprocess.run(["import", "-window", "root", str(path)], env=self.environment, check=True,
+                       stderr=subprocess.DEVNULL)
+
+    def difference(self, first, second, area):
+        """How many pixels of an area (WxH+X+Y) differ in two pictures."""
+        done = subprocess.run(
+            ["compare", "-metric", "AE", "-extract", area, str(first), str(second), "null:"],
+            capture_output=True, text=True, check=False)
+        return float(done.stderr.split()[0])
