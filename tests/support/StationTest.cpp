@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "cartstore/FamilySettings.h"
+#include "cartstore/SearchHistory.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/GeneralFunctions.h"
@@ -30,6 +31,7 @@ void ResetGlobals() {
   gFamilySettings = FamilySettings();
   gAudiowallParts = {};
   gNumberOfCarts = kDefaultNumberOfCarts;
+  gLastSearches = {};
   InitialiseBlankCart();
   gSplitSettings = {};
   gUseDestinationDirectory = false;
