@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "cartstore/FamilySettings.h"
+#include "cartstore/FindCart.h"
 #include "cartstore/SearchHistory.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
@@ -32,6 +33,7 @@ void ResetGlobals() {
   gAudiowallParts = {};
   gNumberOfCarts = kDefaultNumberOfCarts;
   gLastSearches = {};
+  gLastFoundCart = 0;
   InitialiseBlankCart();
   gSplitSettings = {};
   gUseDestinationDirectory = false;
