@@ -8,4 +8,5 @@ cd "$(dirname "$0")/.."
 need "${benchmark_packages[@]}"
 build bench logcheck logchecker_bench
 python3 bench/day.py
+python3 bench/store.py
 build/bench/bin/logchecker_bench --benchmark_min_time=0.3

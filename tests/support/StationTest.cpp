@@ -4,6 +4,8 @@
 #include <filesystem>
 
 #include "cartstore/FamilySettings.h"
+#include "cartstore/FindCart.h"
+#include "cartstore/SearchHistory.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/GeneralFunctions.h"
@@ -30,6 +32,8 @@ void ResetGlobals() {
   gFamilySettings = FamilySettings();
   gAudiowallParts = {};
   gNumberOfCarts = kDefaultNumberOfCarts;
+  gLastSearches = {};
+  gLastFoundCart = 0;
   InitialiseBlankCart();
   gSplitSettings = {};
   gUseDestinationDirectory = false;
