@@ -33,17 +33,19 @@ need_elsewhere() {
   local tool
   for tool in cmake ninja c++; do
     command -v "$tool" >/dev/null 2>&1 && continue
-    echo "$tool is missing. Log Checker needs CMake 3.25, Ninja, a C++20 compiler, ALSA, CLI11 and" >&2
-    echo "nlohmann-json; its tests also need GoogleTest and RapidCheck." >&2
+    echo "$tool is missing. Log Checker needs CMake 3.25, Ninja, a C++20 compiler, Qt 6.4, ALSA, CLI11" >&2
+    echo "and nlohmann-json; its tests also need GoogleTest, RapidCheck, Xvfb and xdotool." >&2
     exit 1
   done
 }
 
-build_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
-test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev)
-windows_packages=("${build_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
+plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
+build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev)
+test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev
+  python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
+windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
-benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time)
+benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.
 build() {

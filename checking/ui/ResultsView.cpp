@@ -6,6 +6,7 @@
 
 #include "common/Numbers.h"
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactHeader.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -20,6 +21,7 @@ constexpr int kScrollBarWidth = 255;
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
+  setHeader(new CompactHeader(this));
   setModel(model_);
   setItemDelegate(new CellDelegate(this));
   setFont(CompactFont());
@@ -31,12 +33,6 @@ ResultsView::ResultsView(ListView& list, QWidget* parent)
   setEditTriggers(QAbstractItemView::NoEditTriggers);
   setTabKeyNavigation(false);
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  header()->setStretchLastSection(false);
-  header()->setSectionsClickable(false);
-  header()->setSectionsMovable(false);
-  header()->setMinimumSectionSize(1);
-  header()->setTextElideMode(Qt::ElideRight);
-  header()->setFont(CompactFont());
 }
 
 void ResultsView::Refresh() { model_->Refresh(); }

@@ -12,6 +12,7 @@
 #include "checking/ui/ResultsView.h"
 #include "common/PathText.h"
 #include "common/UserInterface.h"
+#include "common/ui/CellDelegate.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
@@ -156,6 +157,20 @@ void frmCheckBreaks::LayOut() {
   lvwResults_->resize(ToPixels(width - 2 * kMargin), ToPixels(progressTop - kGap - kListTop));
   lvwResults_->ShareColumns(true);
   picNoResults_->setGeometry(lvwResults_->geometry());
+  FitTexts();
+}
+
+// The heading takes a smaller font where it would not fit, and the panel's words stand in one line
+// where there is room for it.
+void frmCheckBreaks::FitTexts() {
+  Label1_->setFont(font());
+  if (Label1_->heightForWidth(Label1_->width()) > Label1_->height()) {
+    Label1_->setFont(CompactFont());
+  }
+  auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
+  const int room = picNoResults_->width() - ToPixels(4 * kButtonSize);
+  words->setMinimumWidth(
+      qBound(0, words->fontMetrics().horizontalAdvance(words->text()) + 2, qMax(room, 0)));
 }
 
 void frmCheckBreaks::CheckBreaks() {

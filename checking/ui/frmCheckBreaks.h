@@ -43,6 +43,7 @@ class frmCheckBreaks : public QMdiSubWindow {
  private:
   void BuildControls();
   void LayOut();
+  void FitTexts();
   void ShowProgress(int32_t value, int32_t maximum);
   void ShowOutcome();
   void OnRowChosen();

@@ -58,8 +58,11 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   painter->setPen(text);
   painter->setFont(cell.font);
   const QRect inner = cell.rect.adjusted(kMargin, 0, -kMargin, 0);
-  const QString shown = cell.fontMetrics.elidedText(QString(cell.text).replace('\n', ' '),
-                                                    Qt::ElideRight, inner.width() + 1);
+  // A file pads its texts, and blanks at the end are nothing that could be cut off.
+  QString words = cell.text;
+  while (words.endsWith(' ')) words.chop(1);
+  const QString shown =
+      cell.fontMetrics.elidedText(words.replace('\n', ' '), Qt::ElideRight, inner.width() + 1);
   painter->drawText(inner, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, shown);
   painter->restore();
 }

@@ -48,6 +48,10 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
     case Qt::DisplayRole:
       if (column == 0) return ToQString(item.text);
       return subItem != nullptr ? ToQString(subItem->text) : QString();
+    case Qt::ToolTipRole: {
+      const QString text = data(index, Qt::DisplayRole).toString();
+      return text.isEmpty() ? QVariant() : AsToolTip(text);
+    }
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(AlignmentOf(list_.ColumnHeaders[column].alignment));
     case Qt::FontRole: {

@@ -306,8 +306,7 @@ void frmSelectHour::FilterYearScroll(QEvent* event) {
 void frmSelectHour::FilterHour(QEvent* event) {
   if (event->type() != QEvent::FocusIn) return;
   // After the press of the mouse that brought the focus.
-  QTimer::singleShot(0, ui_->TimeT,
-                     [this] { ui_->TimeT->setSelection(0, kLongestHourSelected); });
+  QTimer::singleShot(0, ui_->TimeT, [this] { ui_->TimeT->setSelection(0, kLongestHourSelected); });
 }
 
 }  // namespace logchecker

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactHeader.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Twips.h"
 
@@ -24,6 +25,7 @@ constexpr int kScrollBarWidth = 225;
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
+  setHorizontalHeader(new CompactHeader(this));
   setModel(model_);
   setItemDelegate(new CellDelegate(this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -37,9 +39,6 @@ LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  horizontalHeader()->setSectionsClickable(false);
-  horizontalHeader()->setHighlightSections(false);
-  horizontalHeader()->setMinimumSectionSize(1);
   SetUpColumns();
   FitFont();
   grid_.SetObserver(this);

@@ -1,0 +1,200 @@
+// Draws every window in its states into a folder, without a screen:
+//   logchecker_pictures FOLDER
+#include <QApplication>
+#include <QDir>
+#include <QMdiArea>
+#include <QPushButton>
+#include <QToolButton>
+#include <cstdio>
+#include <functional>
+
+#include "cartstore/Velmar_Cart_Routines.h"
+#include "cartstore/ui/frmCartLocations.h"
+#include "checking/ui/frmCheckBreaks.h"
+#include "common/Dates.h"
+#include "common/GeneralSettings.h"
+#include "common/ui/QtUserInterface.h"
+#include "common/ui/frmGoodInputBox.h"
+#include "common/ui/frmSelectHour.h"
+#include "headless/SampleStation.h"
+#include "platform/Platform.h"
+#include "shell/LoadGeneralSettings.h"
+#include "shell/LoadLogs.h"
+#include "shell/ui/frmGeneralSettings.h"
+#include "shell/ui/frmMain.h"
+#include "shell/ui/frmSplash.h"
+#include "splitlogs/SplitLogTable.h"
+#include "splitlogs/SplitSettings.h"
+#include "splitlogs/ui/frmLogFileSettings.h"
+#include "tests/support/OwnWindowsFolder.h"
+#include "tests/support/ScriptedPlatform.h"
+
+namespace logchecker {
+namespace {
+
+// Day numbers of the pictures, so that they come out the same on any day.
+constexpr int32_t kToday = 46401;
+
+QPalette DarkPalette() {
+  QPalette dark;
+  dark.setColor(QPalette::Window, QColor(45, 48, 52));
+  dark.setColor(QPalette::WindowText, QColor(225, 228, 232));
+  dark.setColor(QPalette::Base, QColor(30, 32, 35));
+  dark.setColor(QPalette::AlternateBase, QColor(38, 41, 45));
+  dark.setColor(QPalette::Text, QColor(225, 228, 232));
+  dark.setColor(QPalette::Button, QColor(58, 62, 67));
+  dark.setColor(QPalette::ButtonText, QColor(225, 228, 232));
+  dark.setColor(QPalette::Highlight, QColor(61, 121, 181));
+  dark.setColor(QPalette::HighlightedText, Qt::white);
+  dark.setColor(QPalette::Mid, QColor(70, 74, 80));
+  dark.setColor(QPalette::PlaceholderText, QColor(140, 145, 150));
+  dark.setColor(QPalette::Disabled, QPalette::Text, QColor(120, 125, 130));
+  dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 125, 130));
+  dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 125, 130));
+  return dark;
+}
+
+class Painter {
+ public:
+  explicit Painter(QString folder) : folder_(std::move(folder)) { QDir().mkpath(folder_); }
+
+  void SetTheme(const QString& theme) { theme_ = theme; }
+  void Save(QWidget& window, const QString& name) {
+    QApplication::processEvents();
+    const QString file = folder_ + "/" + name + theme_ + ".png";
+    if (!window.grab().save(file)) std::fprintf(stderr, "can't write %s\n", qPrintable(file));
+  }
+
+ private:
+  QString folder_;
+  QString theme_;
+};
+
+void Start(frmMain& window, QSize size, int splits) {
+  Os().profiles.WriteString("General", "NumberActiveSplits", std::to_string(splits), "VELKLT.INI");
+  window.resize(size);
+  window.Load();
+}
+
+void DrawMain(Painter& painter, QSize size, int splits) {
+  frmMain window;
+  Start(window, size, splits);
+  const QString name = QString("main-%1-splits-%2").arg(splits).arg(size.width());
+  painter.Save(window, name);
+  window.findChild<QToolButton*>("sftCheckBreaks")->click();
+  painter.Save(window, name + "-checked");
+  window.UpdateSplitInfo();
+  painter.Save(window, name + "-arranged");
+}
+
+void DrawResults(Painter& painter) {
+  frmMain window;
+  Start(window, {1180, 760}, 4);
+  window.findChild<QToolButton*>("sftCheckBreaks")->click();
+  auto* results = window.findChild<frmCheckBreaks*>();
+  painter.Save(*results, "results");
+  results->resize(640, 380);
+  painter.Save(*results, "results-wide");
+  results->resize(200, 134);
+  painter.Save(*results, "results-smallest");
+  results->resize(400, 320);
+  for (int16_t n = 1; n <= kMostSplits; ++n) gSplits(n).gridLog.SetRows(1);
+  results->CheckBreaks();
+  painter.Save(*results, "results-none");
+}
+
+void DrawDialogs(Painter& painter) {
+  LoadGeneralSettings();
+  LoadAudioSettings(kFamilySettingsFile, "");
+  {
+    frmSelectHour picker;
+    picker.Tag = std::to_string(kToday + 1) + "15";
+    picker.show();
+    QApplication::setActiveWindow(&picker);
+    picker.findChild<QWidget*>("DayScroll")->setFocus();
+    painter.Save(picker, "select-hour");
+  }
+  {
+    frmSplash splash;
+    splash.show();
+    splash.SetCurrentAction("Opening Audiowall...");
+    painter.Save(splash, "splash");
+    auto* about = new frmSplash;
+    about->ShowAsAboutBox();
+    painter.Save(*about, "about");
+    delete about;
+  }
+  {
+    frmLogFileSettings dialog;
+    dialog.show();
+    painter.Save(dialog, "split-settings");
+    SettingsOf(1).SplitName = std::string(120, 'W');
+    SettingsOf(1).LogSourceDirectory = "\\\\server\\" + std::string(150, 'x');
+    SettingsOf(1).PreSuffix = std::string(60, 'P');
+    dialog.SetSplitNumberLabel("1");
+    painter.Save(dialog, "split-settings-long");
+  }
+  {
+    frmGeneralSettings dialog;
+    dialog.show();
+    painter.Save(dialog, "general-settings");
+  }
+  {
+    frmCartLocations dialog;
+    dialog.show();
+    painter.Save(dialog, "cart-locations");
+  }
+  const struct {
+    bool frmGoodInputBox::*mode;
+    const char* name;
+  } modes[] = {{&frmGoodInputBox::UseText, "text"},
+               {&frmGoodInputBox::UseComboCombo, "combo"},
+               {&frmGoodInputBox::UseListMulti, "list"}};
+  for (const auto& mode : modes) {
+    frmGoodInputBox box;
+    box.UseText = false;
+    box.*mode.mode = true;
+    box.SetCaption("Which of the splits is meant?");
+    box.SetItems({"Larkfield", "Easton", "Weston"});
+    box.show();
+    painter.Save(box, QString("input-box-") + mode.name);
+  }
+}
+
+int Draw(const QString& folder) {
+  const OwnWindowsFolder windowsFolder;
+  ScriptedPlatform os;
+  os.now = kToday;
+  SampleStation station;
+  station.firstDay = kToday + 1;
+  station.sizes.splits = kMostSplits;
+  WriteSampleStation(windowsFolder.folder().Path(), station);
+  const QtUserInterface userInterface;
+  Painter painter(folder);
+  for (const bool dark : {false, true}) {
+    QApplication::setPalette(dark ? DarkPalette() : QPalette());
+    painter.SetTheme(dark ? "-dark" : "");
+    for (const int splits : {1, 2, 4, 10}) {
+      DrawMain(painter, {1024, 768}, splits);
+      if (!dark) DrawMain(painter, {2560, 1440}, splits);
+    }
+    DrawResults(painter);
+    DrawDialogs(painter);
+  }
+  return 0;
+}
+
+}  // namespace
+}  // namespace logchecker
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  QApplication::setStyle("Fusion");
+  QApplication::setQuitOnLastWindowClosed(false);
+  if (argc != 2) {
+    std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
+    return 2;
+  }
+  return logchecker::Draw(argv[1]);
+}
