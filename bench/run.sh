@@ -6,7 +6,8 @@ cd "$(dirname "$0")/.."
 . scripts/tools.sh
 
 need "${benchmark_packages[@]}"
-build bench logcheck logchecker_bench
+build bench logcheck logchecker_bench desktop_bench
 python3 bench/day.py
 python3 bench/store.py
+python3 bench/desktop.py
 build/bench/bin/logchecker_bench --benchmark_min_time=0.3
