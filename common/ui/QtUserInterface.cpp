@@ -48,7 +48,7 @@ MessageAnswer AnswerOf(int button, MessageButtons buttons) {
 QtUserInterface::QtUserInterface() : before_(UseUserInterface(*this)) {}
 
 QtUserInterface::~QtUserInterface() {
-  SetMousePointer(MousePointer::kDefault);
+  QtUserInterface::SetMousePointer(MousePointer::kDefault);
   UseUserInterface(before_);
 }
 

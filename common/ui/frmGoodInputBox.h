@@ -54,7 +54,6 @@ class frmGoodInputBox : public QDialog {
   // Back to the state of a new box.
   void Unload();
 
- public slots:
   void reject() override;
 
  protected:

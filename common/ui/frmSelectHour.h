@@ -34,7 +34,6 @@ class frmSelectHour : public QDialog {
   void RedrawMonth();
   void SelectDay();
 
- public slots:
   void reject() override;
 
  protected:
