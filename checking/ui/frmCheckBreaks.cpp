@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <QShortcut>
 #include <QToolButton>
+#include <utility>
 
 #include "checking/ExportFolder.h"
 #include "checking/ExportListViewToCSV.h"
@@ -38,7 +39,8 @@ constexpr int kIconPixels = 17;
 
 }  // namespace
 
-frmCheckBreaks::frmCheckBreaks() : inner_(new QWidget) {
+frmCheckBreaks::frmCheckBreaks(std::function<int32_t()> day)
+    : day_(std::move(day)), inner_(new QWidget) {
   setObjectName("frmCheckBreaks");
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Check Split Times");
@@ -247,7 +249,5 @@ int16_t frmCheckBreaks::OnlySelected() const {
   }
   return 0;
 }
-
-void frmCheckBreaks::PrintDetails() {}
 
 }  // namespace logchecker

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QMdiSubWindow>
+#include <cstdint>
+#include <functional>
 #include <string>
 
 #include "checking/BreakCheck.h"
@@ -20,7 +22,8 @@ class frmCheckBreaks : public QMdiSubWindow {
   Q_OBJECT
 
  public:
-  frmCheckBreaks();
+  // `day` gives the loaded day, as a day number.
+  explicit frmCheckBreaks(std::function<int32_t()> day);
 
   // Builds the columns, and shows the window in the middle of a client area of this size, drawn
   // before anything else happens.
@@ -28,7 +31,7 @@ class frmCheckBreaks : public QMdiSubWindow {
 
   // Compares the breaks of all active splits while the user looks.
   void CheckBreaks();
-  // Sends the list to a printer.
+  // Asks for a printer and sends it the list, or its selected rows.
   void PrintDetails();
 
   // The size that it begins with, in twips.
@@ -52,6 +55,7 @@ class frmCheckBreaks : public QMdiSubWindow {
   int16_t OnlySelected() const;
 
   BreakCheck check_;
+  std::function<int32_t()> day_;
   std::string lastFile_;  // of the previous export, which the dialog offers again
   QWidget* inner_;
   QLabel* Label1_;

@@ -93,7 +93,7 @@ void frmMain::OnLoadDay() {
 
 void frmMain::OnCheckDay() {
   if (!checkBreaks_) {
-    checkBreaks_ = new frmCheckBreaks;
+    checkBreaks_ = new frmCheckBreaks([] { return CurrentLogDate; });
     area_->addSubWindow(checkBreaks_);
     checkBreaks_->Load(area_->viewport()->size());
   }
