@@ -45,6 +45,7 @@ test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-de
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core poppler-utils cups cups-ipp-utils)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
+fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.
