@@ -1,12 +1,12 @@
 // The results window: what the comparison of a day found.
 #pragma once
 
-#include <QMdiSubWindow>
 #include <cstdint>
 #include <functional>
 #include <string>
 
 #include "checking/BreakCheck.h"
+#include "common/ui/ChildWindow.h"
 
 class QFrame;
 class QLabel;
@@ -18,7 +18,7 @@ namespace logchecker {
 class ResultsView;
 
 // Goes when the user closes it; a later check reuses it while it stands.
-class frmCheckBreaks : public QMdiSubWindow {
+class frmCheckBreaks : public ChildWindow {
   Q_OBJECT
 
  public:
@@ -39,13 +39,11 @@ class frmCheckBreaks : public QMdiSubWindow {
   static constexpr int kDesignHeight = 4800;
 
  protected:
-  void resizeEvent(QResizeEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  void LayOut() override;
+  QWidget* FirstControl() override;
 
  private:
   void BuildControls();
-  void LayOut();
   void FitTexts();
   void ShowProgress(int32_t value, int32_t maximum);
   void ShowOutcome();
