@@ -1,6 +1,7 @@
 // Draws every window in its states into a folder, without a screen:
 //   logchecker_pictures FOLDER
 #include <QApplication>
+#include <QCheckBox>
 #include <QDir>
 #include <QMdiArea>
 #include <QPushButton>
@@ -9,6 +10,7 @@
 #include <functional>
 
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "cartstore/ui/frmCartBrowser.h"
 #include "cartstore/ui/frmCartLocations.h"
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/Dates.h"
@@ -161,6 +163,25 @@ void DrawDialogs(Painter& painter) {
   }
 }
 
+void DrawBrowser(Painter& painter) {
+  LoadAudioSettings(kFamilySettingsFile, "");
+  OpenAudiowall(0, false);
+  frmCartBrowser browser({});
+  browser.Tag = "5";
+  browser.show();
+  QApplication::setActiveWindow(&browser);
+  painter.Save(browser, "cart-browser");
+  browser.findChild<QCheckBox*>("chkDouble")->click();
+  painter.Save(browser, "cart-browser-double");
+  browser.ShowDescription = true;
+  browser.SetDescription("Pick a cart for the break at 10:15");
+  browser.resize(browser.minimumSize());
+  painter.Save(browser, "cart-browser-smallest");
+  browser.resize(1200, 900);
+  browser.findChild<QCheckBox*>("chkDouble")->click();
+  painter.Save(browser, "cart-browser-large");
+}
+
 int Draw(const QString& folder) {
   const OwnWindowsFolder windowsFolder;
   ScriptedPlatform os;
@@ -180,6 +201,7 @@ int Draw(const QString& folder) {
     }
     DrawResults(painter);
     DrawDialogs(painter);
+    DrawBrowser(painter);
   }
   return 0;
 }
