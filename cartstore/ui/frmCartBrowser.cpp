@@ -12,6 +12,7 @@
 
 #include "cartstore/ui/CartRowsPanel.h"
 #include "cartstore/ui/KeyPreview.h"
+#include "cartstore/ui/frmFindCart.h"
 #include "common/FitTextToWidth.h"
 #include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
@@ -45,7 +46,11 @@ frmCartBrowser::frmCartBrowser(ShowNotesWindow showNotes, QWidget* parent)
   Guarded([this] { Load(); });
 }
 
-frmCartBrowser::~frmCartBrowser() = default;
+// The controls know the browser, which goes before them.
+frmCartBrowser::~frmCartBrowser() {
+  findCart_.reset();
+  qDeleteAll(findChildren<QObject*>(QString(), Qt::FindDirectChildrenOnly));
+}
 
 void frmCartBrowser::SetDescription(const std::string& text) {
   lblDescription_->setText(ToVisibleQString(text));
@@ -170,9 +175,24 @@ void frmCartBrowser::FocusJumpBox() {
   SelectAllText(*txtCartNumber_);
 }
 
-void frmCartBrowser::Hide() { hide(); }
+// A search has nobody to jump any more.
+void frmCartBrowser::Hide() {
+  if (findCart_ && findCart_->isVisible()) findCart_->close();
+  hide();
+}
 
-void frmCartBrowser::ShowFindCart(const FindRequest& /*request*/) {}
+// One search window serves all searches, so that it keeps what is in it.
+void frmCartBrowser::ShowFindCart(const FindRequest& request) {
+  if (!findCart_) findCart_ = std::make_unique<frmFindCart>(this);
+  findCart_->CallingBrowser = this;
+  findCart_->StartCart = request.startCart;
+  if (!findCart_->isVisible()) {
+    findCart_->setWindowModality(request.modal ? Qt::ApplicationModal : Qt::NonModal);
+  }
+  findCart_->show();
+  findCart_->raise();
+  findCart_->activateWindow();
+}
 
 void frmCartBrowser::ShowNotes(const std::string& file, bool modal) {
   if (showNotes_) showNotes_(file, this, modal);

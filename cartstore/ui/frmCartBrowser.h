@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,7 @@ class QToolButton;
 namespace logchecker {
 
 class CartRowsPanel;
+class frmFindCart;
 
 // Shows a notes file, given by its station path, on top of all other windows.
 using ShowNotesWindow = std::function<void(const std::string& file, QWidget* owner, bool modal)>;
@@ -84,6 +86,7 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
   void KeepFrameOnScreen();
 
   ShowNotesWindow showNotes_;
+  std::unique_ptr<frmFindCart> findCart_;
   std::vector<double> characterWidths_;  // of the rows' font, in twips, by station character
   bool justShown_ = false;
 

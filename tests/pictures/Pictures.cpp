@@ -2,9 +2,12 @@
 //   logchecker_pictures FOLDER
 #include <QApplication>
 #include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QMdiArea>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <cstdio>
 #include <functional>
@@ -12,6 +15,7 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "cartstore/ui/frmCartBrowser.h"
 #include "cartstore/ui/frmCartLocations.h"
+#include "cartstore/ui/frmFindCart.h"
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
@@ -182,6 +186,33 @@ void DrawBrowser(Painter& painter) {
   painter.Save(browser, "cart-browser-large");
 }
 
+void DrawSearch(Painter& painter) {
+  LoadAudioSettings(kFamilySettingsFile, "");
+  OpenAudiowall(0, false);
+  frmFindCart search;
+  search.show();
+  QApplication::setActiveWindow(&search);
+  painter.Save(search, "find-cart");
+  auto* tabs = search.findChild<QTabWidget*>("tabFind");
+  tabs->setCurrentIndex(1);
+  painter.Save(search, "find-cart-advanced");
+  search.findChild<QCheckBox*>("chkTimeSearch")->click();
+  search.findChild<QCheckBox*>("chkLimitLines")->click();
+  painter.Save(search, "find-cart-advanced-enabled");
+  search.findChild<QCheckBox*>("chkTimeSearch")->click();
+  search.findChild<QCheckBox*>("chkLimitLines")->click();
+  tabs->setCurrentIndex(0);
+  search.findChild<QComboBox*>("cmbSearchText")->setEditText("jingle");
+  search.findChild<QPushButton*>("cmdFind")->click();
+  painter.Save(search, "find-cart-found");
+  search.resize(900, 600);
+  painter.Save(search, "find-cart-large");
+  search.findChild<QComboBox*>("cmbSearchText")->setEditText("nothing like it");
+  QTimer::singleShot(0, [&] { painter.Save(search, "find-cart-running"); });
+  search.findChild<QPushButton*>("cmdFind")->click();
+  painter.Save(search, "find-cart-none");
+}
+
 int Draw(const QString& folder) {
   const OwnWindowsFolder windowsFolder;
   ScriptedPlatform os;
@@ -202,6 +233,7 @@ int Draw(const QString& folder) {
     DrawResults(painter);
     DrawDialogs(painter);
     DrawBrowser(painter);
+    DrawSearch(painter);
   }
   return 0;
 }
