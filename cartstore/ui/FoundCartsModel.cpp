@@ -20,8 +20,11 @@ QVariant FoundCartsModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<size_t>(index.row());
   const auto column = static_cast<size_t>(index.column());
   if (!index.isValid() || row >= carts_.Count() || column >= kFoundColumnCount) return {};
-  if (role != Qt::DisplayRole) return {};
-  return ToVisibleQString(carts_.Row(row).texts[column]);
+  const QString text = ToVisibleQString(carts_.Row(row).texts[column]);
+  if (role == Qt::DisplayRole) return text;
+  // What is empty to the eye has a name all the same.
+  if (role != Qt::AccessibleTextRole || !text.trimmed().isEmpty()) return {};
+  return headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString() + " is empty";
 }
 
 QVariant FoundCartsModel::headerData(int section, Qt::Orientation orientation, int role) const {

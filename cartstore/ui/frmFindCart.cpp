@@ -54,6 +54,7 @@ void frmFindCart::FillLists() {
   }
   ui_->cmbSearchText->setCompleter(nullptr);
   ui_->cmbSearchText->installEventFilter(this);
+  ui_->cmbSearchText->lineEdit()->setAccessibleName(ui_->cmbSearchText->accessibleName());
   TakeStationTextOnly(*ui_->cmbSearchText->lineEdit());
   ui_->lviewItems->SetSearch(*this);
   const QLineEdit& box = *ui_->mskLength;
