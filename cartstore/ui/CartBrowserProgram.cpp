@@ -150,16 +150,16 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   if (const auto information = Information({argv + 1, argv + argc})) {
     return WriteStandardOutput(*information) ? kChosen : kTrouble;
   }
+  Arguments arguments;
+  const std::string wrong = Parse({argv + 1, argv + argc}, &arguments);
+  if (!wrong.empty()) return Refuse(wrong);
   const QApplication application(argc, argv);
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);
   QApplication::setWindowIcon(IconNamed("program"));
   // The browser is only hidden, and a dialog before it does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
-  // The toolkit has taken its own arguments out by now.
-  Arguments arguments;
-  const std::string wrong = Parse({argv + 1, argv + argc}, &arguments);
-  return wrong.empty() ? Run(arguments, parts) : Refuse(wrong);
+  return Run(arguments, parts);
 }
 
 }  // namespace logchecker
