@@ -53,6 +53,7 @@ class FindCart : private CartWalkObserver {
   // Behind a change of the input of that name.
   void LimitLinesClicked();
   void TimeSearchClicked();
+  void TabClicked(FindTab tab) { view_.Tab = tab; }
   void ListFocusChanged(bool hasFocus);
   void ClickHeader(FoundColumn column);
   void SelectRow(std::optional<size_t> row);

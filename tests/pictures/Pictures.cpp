@@ -1,15 +1,21 @@
 // Draws every window in its states into a folder, without a screen:
 //   logchecker_pictures FOLDER
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QDir>
 #include <QMdiArea>
 #include <QPushButton>
+#include <QTabWidget>
+#include <QTimer>
 #include <QToolButton>
 #include <cstdio>
 #include <functional>
 
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "cartstore/ui/frmCartBrowser.h"
 #include "cartstore/ui/frmCartLocations.h"
+#include "cartstore/ui/frmFindCart.h"
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
@@ -177,6 +183,52 @@ void DrawDialogs(Painter& painter) {
   }
 }
 
+void DrawBrowser(Painter& painter) {
+  LoadAudioSettings(kFamilySettingsFile, "");
+  OpenAudiowall(0, false);
+  frmCartBrowser browser({});
+  browser.Tag = "5";
+  browser.show();
+  QApplication::setActiveWindow(&browser);
+  painter.Save(browser, "cart-browser");
+  browser.findChild<QCheckBox*>("chkDouble")->click();
+  painter.Save(browser, "cart-browser-double");
+  browser.ShowDescription = true;
+  browser.SetDescription("Pick a cart for the break at 10:15");
+  browser.resize(browser.minimumSize());
+  painter.Save(browser, "cart-browser-smallest");
+  browser.resize(1200, 900);
+  browser.findChild<QCheckBox*>("chkDouble")->click();
+  painter.Save(browser, "cart-browser-large");
+}
+
+void DrawSearch(Painter& painter) {
+  LoadAudioSettings(kFamilySettingsFile, "");
+  OpenAudiowall(0, false);
+  frmFindCart search;
+  search.show();
+  QApplication::setActiveWindow(&search);
+  painter.Save(search, "find-cart");
+  auto* tabs = search.findChild<QTabWidget*>("tabFind");
+  tabs->setCurrentIndex(1);
+  painter.Save(search, "find-cart-advanced");
+  search.findChild<QCheckBox*>("chkTimeSearch")->click();
+  search.findChild<QCheckBox*>("chkLimitLines")->click();
+  painter.Save(search, "find-cart-advanced-enabled");
+  search.findChild<QCheckBox*>("chkTimeSearch")->click();
+  search.findChild<QCheckBox*>("chkLimitLines")->click();
+  tabs->setCurrentIndex(0);
+  search.findChild<QComboBox*>("cmbSearchText")->setEditText("jingle");
+  search.findChild<QPushButton*>("cmdFind")->click();
+  painter.Save(search, "find-cart-found");
+  search.resize(900, 600);
+  painter.Save(search, "find-cart-large");
+  search.findChild<QComboBox*>("cmbSearchText")->setEditText("nothing like it");
+  QTimer::singleShot(0, [&] { painter.Save(search, "find-cart-running"); });
+  search.findChild<QPushButton*>("cmdFind")->click();
+  painter.Save(search, "find-cart-none");
+}
+
 int Draw(const QString& folder) {
   const OwnWindowsFolder windowsFolder;
   ScriptedPlatform os;
@@ -196,6 +248,8 @@ int Draw(const QString& folder) {
     }
     DrawResults(painter);
     DrawDialogs(painter);
+    DrawBrowser(painter);
+    DrawSearch(painter);
   }
   return 0;
 }
