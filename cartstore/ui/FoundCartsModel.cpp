@@ -6,15 +6,13 @@
 namespace logchecker {
 
 FoundCartsModel::FoundCartsModel(const FoundCarts& carts, QObject* parent)
-    : QAbstractTableModel(parent), carts_(carts) {}
-
-int FoundCartsModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows_;
+    : RowsModel(parent), carts_(carts) {
+  Refresh();
 }
 
-int FoundCartsModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : static_cast<int>(kFoundColumnCount);
-}
+int FoundCartsModel::CountRows() const { return static_cast<int>(carts_.Count()); }
+
+int FoundCartsModel::CountColumns() const { return static_cast<int>(kFoundColumnCount); }
 
 QVariant FoundCartsModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<size_t>(index.row());
@@ -33,20 +31,6 @@ QVariant FoundCartsModel::headerData(int section, Qt::Orientation orientation, i
   if (role == Qt::DisplayRole) return ToQString(FoundColumnHeaders(0)[column].caption);
   if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
   return {};
-}
-
-void FoundCartsModel::Refresh() {
-  beginResetModel();
-  rows_ = static_cast<int>(carts_.Count());
-  endResetModel();
-}
-
-void FoundCartsModel::TakeAddedRows() {
-  const int rows = static_cast<int>(carts_.Count());
-  if (rows <= rows_) return;
-  beginInsertRows({}, rows_, rows - 1);
-  rows_ = rows;
-  endInsertRows();
 }
 
 }  // namespace logchecker

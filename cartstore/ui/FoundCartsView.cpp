@@ -8,9 +8,9 @@
 #include <algorithm>
 
 #include "cartstore/ui/FoundCartsModel.h"
-#include "common/ui/CellDelegate.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
+#include "common/ui/ReportList.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 
@@ -30,21 +30,9 @@ float YInTwips(const QMouseEvent& event) {
 }  // namespace
 
 FoundCartsView::FoundCartsView(QWidget* parent) : QTreeView(parent) {
-  setItemDelegate(new CellDelegate(this));
-  setFont(CompactFont());
-  setRootIsDecorated(false);
-  setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
-  setAlternatingRowColors(true);
+  SetUpReportList(*this);
   setSelectionMode(QAbstractItemView::SingleSelection);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setTabKeyNavigation(false);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-  header()->setFont(CompactFont());
   header()->setSectionsClickable(true);
-  header()->setSectionsMovable(false);
-  header()->setStretchLastSection(false);
-  header()->setMinimumSectionSize(1);
   added_.setSingleShot(true);
   connect(&added_, &QTimer::timeout, this, [this] { ShowAddedRows(); });
 }

@@ -5,8 +5,7 @@
 #include <QMouseEvent>
 
 #include "common/Numbers.h"
-#include "common/ui/CellDelegate.h"
-#include "common/ui/CompactHeader.h"
+#include "common/ui/ReportList.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -21,18 +20,9 @@ constexpr int kScrollBarWidth = 255;
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
-  setHeader(new CompactHeader(this));
+  SetUpReportList(*this);
   setModel(model_);
-  setItemDelegate(new CellDelegate(this));
-  setFont(CompactFont());
-  setRootIsDecorated(false);
-  setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
-  setAlternatingRowColors(true);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
-  setEditTriggers(QAbstractItemView::NoEditTriggers);
-  setTabKeyNavigation(false);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
 void ResultsView::Refresh() { model_->Refresh(); }

@@ -23,17 +23,13 @@ Qt::Alignment AlignmentOf(ColumnAlignment alignment) {
 }  // namespace
 
 ListViewModel::ListViewModel(const ListView& list, QObject* parent)
-    : QAbstractTableModel(parent), list_(list) {
+    : RowsModel(parent), list_(list) {
   Refresh();
 }
 
-int ListViewModel::rowCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : rows_;
-}
+int ListViewModel::CountRows() const { return static_cast<int>(list_.ListItems.size()); }
 
-int ListViewModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : columns_;
-}
+int ListViewModel::CountColumns() const { return static_cast<int>(list_.ColumnHeaders.size()); }
 
 QVariant ListViewModel::data(const QModelIndex& index, int role) const {
   const auto row = static_cast<size_t>(index.row());
@@ -72,21 +68,6 @@ QVariant ListViewModel::headerData(int section, Qt::Orientation orientation, int
   if (role == Qt::ToolTipRole) return AsToolTip(ToQString(header.text));
   if (role == Qt::TextAlignmentRole) return QVariant::fromValue(AlignmentOf(header.alignment));
   return {};
-}
-
-void ListViewModel::Refresh() {
-  beginResetModel();
-  rows_ = static_cast<int>(list_.ListItems.size());
-  columns_ = static_cast<int>(list_.ColumnHeaders.size());
-  endResetModel();
-}
-
-void ListViewModel::TakeAddedRows() {
-  const int rows = static_cast<int>(list_.ListItems.size());
-  if (rows <= rows_) return;
-  beginInsertRows({}, rows_, rows - 1);
-  rows_ = rows;
-  endInsertRows();
 }
 
 }  // namespace logchecker

@@ -7,16 +7,13 @@
 
 namespace logchecker {
 
-LogGridModel::LogGridModel(const LogGrid& grid, QObject* parent)
-    : QAbstractTableModel(parent), grid_(grid) {
+LogGridModel::LogGridModel(const LogGrid& grid, QObject* parent) : RowsModel(parent), grid_(grid) {
   Refresh();
 }
 
-int LogGridModel::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : rows_; }
+int LogGridModel::CountRows() const { return grid_.Rows() - 1; }
 
-int LogGridModel::columnCount(const QModelIndex& parent) const {
-  return parent.isValid() ? 0 : kLogColumns;
-}
+int LogGridModel::CountColumns() const { return kLogColumns; }
 
 QVariant LogGridModel::data(const QModelIndex& index, int role) const {
   const int32_t row = index.row() + 1;
@@ -57,12 +54,6 @@ QVariant LogGridModel::headerData(int section, Qt::Orientation orientation, int 
                                                  : Qt::AlignLeft | Qt::AlignVCenter));
   }
   return {};
-}
-
-void LogGridModel::Refresh() {
-  beginResetModel();
-  rows_ = grid_.Rows() - 1;
-  endResetModel();
 }
 
 }  // namespace logchecker
