@@ -65,11 +65,11 @@ class MultimediaAnimationPlayer : public AnimationPlayer {
 }  // namespace
 
 std::unique_ptr<AnimationPlayer> OpenAnimation(const QString& hostFile,
-                                               std::function<void(const QImage&)> show,
-                                               std::function<void()> fail) {
+                                               const std::function<void(const QImage&)>& show,
+                                               const std::function<void()>& fail) {
   static const bool usable = ChooseBackend();
   if (!usable) return nullptr;
-  return std::make_unique<MultimediaAnimationPlayer>(hostFile, std::move(show), std::move(fail));
+  return std::make_unique<MultimediaAnimationPlayer>(hostFile, show, fail);
 }
 
 }  // namespace logchecker
