@@ -26,6 +26,7 @@ constexpr NumberedText kTexts[] = {
     {kPermissionDenied, "Permission denied"},
     {kPathFileAccess, "Path/File access error"},
     {kPathNotFound, "Path not found"},
+    {kPrinterError, "Printer error"},
     {kCancelled, "Cancel was selected"},
     {kInvalidGridRow, "Invalid row value"},
 };

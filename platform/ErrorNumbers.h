@@ -22,6 +22,7 @@ inline constexpr int32_t kTooManyFiles = 67;
 inline constexpr int32_t kPermissionDenied = 70;
 inline constexpr int32_t kPathFileAccess = 75;
 inline constexpr int32_t kPathNotFound = 76;
+inline constexpr int32_t kPrinterError = 482;
 inline constexpr int32_t kCancelled = 32755;
 inline constexpr int32_t kInvalidGridRow = 30009;
 

@@ -7,5 +7,5 @@
 int main(int argc, char** argv) {
   return logchecker::RunCartBrowser(
       argc, argv,
-      {logchecker::LoadGeneralSettings, logchecker::CloseAllFiles, logchecker::ShowPlainNotes});
+      {logchecker::LoadGeneralSettings, logchecker::CloseAllFiles, logchecker::ShowNotesPreview});
 }

@@ -40,11 +40,12 @@ need_elsewhere() {
 }
 
 plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
-build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev)
+build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev libcups2-dev)
 test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev
-  python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
+  python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core poppler-utils cups cups-ipp-utils)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
+fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.

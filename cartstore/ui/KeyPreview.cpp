@@ -11,36 +11,6 @@
 
 namespace logchecker {
 
-int32_t KeyCodeOf(const QKeyEvent& key) {
-  const int code = key.key();
-  if (code >= Qt::Key_F1 && code <= Qt::Key_F12) return kKeyF1 + (code - Qt::Key_F1);
-  switch (code) {
-    case Qt::Key_Backspace:
-      return kKeyBackspace;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-      return kKeyTab;
-    case Qt::Key_Escape:
-      return kKeyEscape;
-    case Qt::Key_Space:
-      return kKeySpace;
-    case Qt::Key_PageUp:
-      return kKeyPageUp;
-    case Qt::Key_PageDown:
-      return kKeyPageDown;
-    case Qt::Key_Up:
-      return kKeyUp;
-    case Qt::Key_Down:
-      return kKeyDown;
-    case Qt::Key_J:
-      return kKeyJ;
-    case Qt::Key_Q:
-      return kKeyQ;
-    default:
-      return 0;
-  }
-}
-
 char CharacterOf(const QKeyEvent& key) {
   if (key.key() == Qt::Key_Escape) return static_cast<char>(kKeyEscape);
   if (key.key() == Qt::Key_Backspace) return static_cast<char>(kKeyBackspace);

@@ -3,14 +3,9 @@
 
 #include <QKeyEvent>
 #include <QObject>
-#include <cstdint>
 #include <functional>
 
 namespace logchecker {
-
-// The code by which the windows of the store know a key (cartstore/KeyCodes.h); 0 for one that
-// they don't know.
-int32_t KeyCodeOf(const QKeyEvent& key);
 
 // The character that a key types, which Escape and backspace do too; 0 for none. One typed with Alt
 // is for the access keys.

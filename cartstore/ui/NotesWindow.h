@@ -1,4 +1,4 @@
-// Shows the beginning of a cart's notes as plain text.
+// A cart's notes in a viewer of their own.
 #pragma once
 
 #include <QWidget>
@@ -6,7 +6,8 @@
 
 namespace logchecker {
 
-// On top of all other windows; it goes when it is closed. Rich text shows with its control words.
-void ShowPlainNotes(const std::string& file, QWidget* owner, bool modal);
+// Opens a new viewer on the file, above all other windows; it goes when it is closed. Does not wait
+// for a modal one either: it holds back the other windows by itself.
+void ShowNotesPreview(const std::string& file, QWidget* owner, bool modal);
 
 }  // namespace logchecker

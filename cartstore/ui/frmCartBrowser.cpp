@@ -15,6 +15,7 @@
 #include "cartstore/ui/frmFindCart.h"
 #include "common/FitTextToWidth.h"
 #include "common/ui/Guard.h"
+#include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
 #include "common/ui/Twips.h"

@@ -9,6 +9,7 @@
 #include "common/SystemHelpers.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
+#include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
 #include "common/ui/Twips.h"

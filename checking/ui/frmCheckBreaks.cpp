@@ -6,6 +6,7 @@
 #include <QProgressBar>
 #include <QShortcut>
 #include <QToolButton>
+#include <utility>
 
 #include "checking/ExportFolder.h"
 #include "checking/ExportListViewToCSV.h"
@@ -26,8 +27,6 @@ namespace logchecker {
 namespace {
 
 // All in twips.
-constexpr int kLeastHeight = 2000;
-constexpr int kLeastWidth = 3000;
 constexpr int kMargin = 120;
 constexpr int kGap = 60;
 constexpr int kButtonSize = 375;
@@ -38,7 +37,8 @@ constexpr int kIconPixels = 17;
 
 }  // namespace
 
-frmCheckBreaks::frmCheckBreaks() : inner_(new QWidget) {
+frmCheckBreaks::frmCheckBreaks(std::function<int32_t()> day)
+    : day_(std::move(day)), inner_(new QWidget) {
   setObjectName("frmCheckBreaks");
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Check Split Times");
@@ -115,35 +115,9 @@ void frmCheckBreaks::Load(const QSize& clientArea) {
   Ui().Yield();
 }
 
-void frmCheckBreaks::resizeEvent(QResizeEvent* event) {
-  QMdiSubWindow::resizeEvent(event);
-  LayOut();
-}
+QWidget* frmCheckBreaks::FirstControl() { return lvwResults_; }
 
-void frmCheckBreaks::showEvent(QShowEvent* event) {
-  QMdiSubWindow::showEvent(event);
-  LayOut();
-}
-
-void frmCheckBreaks::focusInEvent(QFocusEvent* event) {
-  QMdiSubWindow::focusInEvent(event);
-  if (!isMinimized()) lvwResults_->setFocus();
-}
-
-// Setting a size raises the event again, which completes the layout. A maximised window is not held
-// to the least sizes.
 void frmCheckBreaks::LayOut() {
-  if (isMinimized() || isShaded()) return;
-  if (!isMaximized()) {
-    if (ToTwips(height()) < kLeastHeight) {
-      resize(width(), (kLeastHeight + kTwipsPerPixel - 1) / kTwipsPerPixel);
-      return;
-    }
-    if (ToTwips(width()) < kLeastWidth) {
-      resize((kLeastWidth + kTwipsPerPixel - 1) / kTwipsPerPixel, height());
-      return;
-    }
-  }
   const int width = ToTwips(inner_->width());
   const int height = ToTwips(inner_->height());
   const int printLeft = width - kMargin - kButtonSize;
@@ -247,7 +221,5 @@ int16_t frmCheckBreaks::OnlySelected() const {
   }
   return 0;
 }
-
-void frmCheckBreaks::PrintDetails() {}
 
 }  // namespace logchecker

@@ -1,10 +1,12 @@
 // The results window: what the comparison of a day found.
 #pragma once
 
-#include <QMdiSubWindow>
+#include <cstdint>
+#include <functional>
 #include <string>
 
 #include "checking/BreakCheck.h"
+#include "common/ui/ChildWindow.h"
 
 class QFrame;
 class QLabel;
@@ -16,11 +18,12 @@ namespace logchecker {
 class ResultsView;
 
 // Goes when the user closes it; a later check reuses it while it stands.
-class frmCheckBreaks : public QMdiSubWindow {
+class frmCheckBreaks : public ChildWindow {
   Q_OBJECT
 
  public:
-  frmCheckBreaks();
+  // `day` gives the loaded day, as a day number.
+  explicit frmCheckBreaks(std::function<int32_t()> day);
 
   // Builds the columns, and shows the window in the middle of a client area of this size, drawn
   // before anything else happens.
@@ -28,7 +31,7 @@ class frmCheckBreaks : public QMdiSubWindow {
 
   // Compares the breaks of all active splits while the user looks.
   void CheckBreaks();
-  // Sends the list to a printer.
+  // Asks for a printer and sends it the list, or its selected rows.
   void PrintDetails();
 
   // The size that it begins with, in twips.
@@ -36,13 +39,11 @@ class frmCheckBreaks : public QMdiSubWindow {
   static constexpr int kDesignHeight = 4800;
 
  protected:
-  void resizeEvent(QResizeEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  void LayOut() override;
+  QWidget* FirstControl() override;
 
  private:
   void BuildControls();
-  void LayOut();
   void FitTexts();
   void ShowProgress(int32_t value, int32_t maximum);
   void ShowOutcome();
@@ -52,6 +53,7 @@ class frmCheckBreaks : public QMdiSubWindow {
   int16_t OnlySelected() const;
 
   BreakCheck check_;
+  std::function<int32_t()> day_;
   std::string lastFile_;  // of the previous export, which the dialog offers again
   QWidget* inner_;
   QLabel* Label1_;

@@ -65,6 +65,7 @@ bool SaveDialog::Refuses(const QString& file) {
   }
   const QFileInfo facts(file);
   if (facts.isDir()) return false;
+  if (facts.exists() && !overwritePrompt_) return false;
   if (facts.exists()) {
     return !Agrees(tr("%1 already exists.\n\nReplace it?").arg(facts.fileName()));
   }

@@ -19,6 +19,9 @@ class SaveDialog : public QFileDialog {
   // Whether the dialog asks before a new file is made.
   void SetCreatePrompt(bool createPrompt) { createPrompt_ = createPrompt; }
 
+  // Whether it asks before a file is replaced; it does unless told otherwise.
+  void SetOverwritePrompt(bool overwritePrompt) { overwritePrompt_ = overwritePrompt; }
+
   // The chosen file as a station path; nothing when the user cancels. `presetName` stands in the
   // name's box at first. A name that the code page can't hold is refused with a message.
   std::optional<std::string> Ask(const QString& presetName);
@@ -31,6 +34,7 @@ class SaveDialog : public QFileDialog {
   bool Agrees(const QString& question);
 
   bool createPrompt_ = false;
+  bool overwritePrompt_ = true;
 };
 
 }  // namespace logchecker

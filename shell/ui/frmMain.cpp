@@ -71,7 +71,10 @@ frmMain::frmMain() : area_(new QMdiArea) {
   });
 }
 
+// The child windows go while there still is a frame to be told of it, and none is told any more.
 frmMain::~frmMain() {
+  area_->disconnect(this);
+  delete checkBreaks_;
   gSplits.SetFactory({});
   gSplits.UnloadAll();
 }
@@ -93,7 +96,7 @@ void frmMain::OnLoadDay() {
 
 void frmMain::OnCheckDay() {
   if (!checkBreaks_) {
-    checkBreaks_ = new frmCheckBreaks;
+    checkBreaks_ = new frmCheckBreaks([] { return CurrentLogDate; });
     area_->addSubWindow(checkBreaks_);
     checkBreaks_->Load(area_->viewport()->size());
   }

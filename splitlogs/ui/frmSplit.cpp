@@ -15,8 +15,6 @@ namespace logchecker {
 namespace {
 
 // All in twips.
-constexpr int kLeastHeight = 2000;
-constexpr int kLeastWidth = 3000;
 constexpr int kBorderMargins = 120;  // of brdMain in the window, both sides together
 constexpr int kGridMargins = 60;     // of gridLog in brdMain
 
@@ -47,29 +45,9 @@ void frmSplit::CaptionChanged() {
   gridView_->setAccessibleName(caption);
 }
 
-void frmSplit::resizeEvent(QResizeEvent* event) {
-  QMdiSubWindow::resizeEvent(event);
-  LayOut();
-}
+QWidget* frmSplit::FirstControl() { return gridView_; }
 
-void frmSplit::showEvent(QShowEvent* event) {
-  QMdiSubWindow::showEvent(event);
-  LayOut();
-}
-
-// Setting a size raises the event again, which completes the layout.
 void frmSplit::LayOut() {
-  if (isMinimized() || isShaded()) return;
-  if (!isMaximized()) {
-    if (ToTwips(height()) < kLeastHeight) {
-      resize(width(), (kLeastHeight + kTwipsPerPixel - 1) / kTwipsPerPixel);
-      return;
-    }
-    if (ToTwips(width()) < kLeastWidth) {
-      resize((kLeastWidth + kTwipsPerPixel - 1) / kTwipsPerPixel, height());
-      return;
-    }
-  }
   const QSize inner = inner_->size();
   brdMain_->resize(inner.width() - ToPixels(kBorderMargins),
                    inner.height() - ToPixels(kBorderMargins));
@@ -81,11 +59,6 @@ void frmSplit::LayOut() {
 void frmSplit::closeEvent(QCloseEvent* event) {
   event->ignore();
   showMinimized();
-}
-
-void frmSplit::focusInEvent(QFocusEvent* event) {
-  QMdiSubWindow::focusInEvent(event);
-  if (!isMinimized()) gridView_->setFocus();
 }
 
 void frmSplit::OnBreakChosen() {

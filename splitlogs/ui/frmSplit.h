@@ -1,8 +1,7 @@
 // The window of one split: its log for the loaded day as a grid.
 #pragma once
 
-#include <QMdiSubWindow>
-
+#include "common/ui/ChildWindow.h"
 #include "splitlogs/SplitLog.h"
 
 class QFrame;
@@ -14,7 +13,7 @@ class LogGridView;
 
 // A SplitLog that can be seen. It is minimised where the user would close it; it goes only when its
 // owner unloads it.
-class frmSplit : public QMdiSubWindow, public SplitLog {
+class frmSplit : public ChildWindow, public SplitLog {
   Q_OBJECT
 
  public:
@@ -27,13 +26,11 @@ class frmSplit : public QMdiSubWindow, public SplitLog {
 
  protected:
   void CaptionChanged() override;
-  void resizeEvent(QResizeEvent* event) override;
+  void LayOut() override;
+  QWidget* FirstControl() override;
   void closeEvent(QCloseEvent* event) override;
-  void showEvent(QShowEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
 
  private:
-  void LayOut();
   void OnBreakChosen();
 
   QWidget* inner_;

@@ -24,6 +24,7 @@
 #include "common/ui/frmSelectHour.h"
 #include "headless/SampleStation.h"
 #include "platform/Platform.h"
+#include "printing/ui/frmPrintPreview.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
 #include "shell/ui/frmGeneralSettings.h"
@@ -34,6 +35,7 @@
 #include "splitlogs/ui/frmLogFileSettings.h"
 #include "tests/support/OwnWindowsFolder.h"
 #include "tests/support/ScriptedPlatform.h"
+#include "tests/support/TempFolder.h"
 
 namespace logchecker {
 namespace {
@@ -149,6 +151,20 @@ void DrawDialogs(Painter& painter) {
     frmCartLocations dialog;
     dialog.show();
     painter.Save(dialog, "cart-locations");
+  }
+  {
+    const TempFolder folder;
+    folder.WriteFile(
+        "note.rtf",
+        "{\\rtf1\\ansi{\\fonttbl{\\f0 DejaVu Sans;}}{\\colortbl;\\red180\\green0\\blue0;}"
+        "\\qc\\b\\fs32 Midtown Carpets\\b0\\fs22\\par\\pard Summer sale, "
+        "{\\cf1 not before 6 June}.\\par\\par{\\pntext\\bullet\\tab}Voice: A. Reader\\par"
+        "{\\pntext\\bullet\\tab}{\\i 30 seconds}, {\\ul no music bed}\\par}");
+    frmPrintPreview preview;
+    preview.LoadFile(folder.Path("note.rtf"));
+    preview.show();
+    painter.Save(preview, "print-preview");
+    preview.close();
   }
   const struct {
     bool frmGoodInputBox::*mode;

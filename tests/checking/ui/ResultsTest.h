@@ -51,7 +51,7 @@ class ResultsTest : public WindowTest {
     gSplits(2).LoadLogFile();
   }
   void Check() {
-    window = new frmCheckBreaks;
+    window = new frmCheckBreaks([] { return kDay; });
     area.addSubWindow(window);
     window->Load(area.viewport()->size());
     window->CheckBreaks();

@@ -1,0 +1,56 @@
+// What the words of rich text mean to the reader.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+namespace logchecker {
+
+enum class RichTextWord {
+  kUnknown,
+  kSkippedGroup,  // a destination whose group is passed over
+  kCharacter,     // stands for one character
+  kFontTable,
+  kColourTable,
+  kBold,
+  kItalic,
+  kUnderline,
+  kNoUnderline,
+  kHidden,
+  kFont,
+  kFontSize,
+  kColour,
+  kPlain,
+  kParagraphDefaults,
+  kAlignLeft,
+  kAlignRight,
+  kAlignCentre,
+  kAlignJustified,
+  kLeftIndent,
+  kRightIndent,
+  kFirstLineIndent,
+  kParagraphEnd,
+  kCellEnd,
+  kRowEnd,
+  kUnicode,
+  kUnicodeSkip,
+  kAnsiCodePage,
+  kMac,
+  kPc,
+  kPca,
+  kDefaultFont,
+  kCharset,
+  kFontCodePage,
+  kRed,
+  kGreen,
+  kBlue,
+};
+
+struct RichTextMeaning {
+  RichTextWord word = RichTextWord::kUnknown;
+  char32_t character = 0;
+};
+
+RichTextMeaning MeaningOf(std::string_view word);
+
+}  // namespace logchecker
