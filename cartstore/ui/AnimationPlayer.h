@@ -19,7 +19,7 @@ class AnimationPlayer {
 // A player for a file of the host, held at its first picture. Each picture goes to `show`; `fail`
 // is called, at any time, when the film can't be played. Nothing where the build can't play films.
 std::unique_ptr<AnimationPlayer> OpenAnimation(const QString& hostFile,
-                                               std::function<void(const QImage&)> show,
-                                               std::function<void()> fail);
+                                               const std::function<void(const QImage&)>& show,
+                                               const std::function<void()>& fail);
 
 }  // namespace logchecker

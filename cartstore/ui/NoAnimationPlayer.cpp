@@ -4,8 +4,8 @@
 namespace logchecker {
 
 std::unique_ptr<AnimationPlayer> OpenAnimation(const QString& /*hostFile*/,
-                                               std::function<void(const QImage&)> /*show*/,
-                                               std::function<void()> /*fail*/) {
+                                               const std::function<void(const QImage&)>& /*show*/,
+                                               const std::function<void()>& /*fail*/) {
   return nullptr;
 }
 

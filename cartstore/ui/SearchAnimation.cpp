@@ -43,19 +43,30 @@ bool SearchAnimation::Open(const std::string& file) {
 }
 
 void SearchAnimation::Play() {
+  playing_ = true;
   if (player_) player_->Play();
 }
 
+// Pictures that are still on their way come too late.
 void SearchAnimation::Stop() {
+  playing_ = false;
   if (player_) player_->Stop();
+  picture_ = first_;
+  update();
 }
 
 void SearchAnimation::Close() {
   player_.reset();
-  ShowPicture({});
+  picture_ = first_ = QImage();
+  update();
 }
 
 void SearchAnimation::ShowPicture(const QImage& picture) {
+  if (first_.isNull()) {
+    first_ = picture;
+  } else if (!playing_) {
+    return;
+  }
   picture_ = picture;
   update();
 }

@@ -39,7 +39,9 @@ class SearchAnimation : public QWidget {
   void ShowPicture(const QImage& picture);
 
   std::unique_ptr<AnimationPlayer> player_;
+  QImage first_;
   QImage picture_;
+  bool playing_ = false;
 };
 
 }  // namespace logchecker

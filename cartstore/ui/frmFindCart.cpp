@@ -38,7 +38,7 @@ frmFindCart::frmFindCart(QWidget* parent)
   OpenAnimation();
   const QMargins margins = layout()->contentsMargins();
   ui_->lviewItems->SetColumnWidths(ToTwips(width() - margins.left() - margins.right()));
-  ShowControls();
+  frmFindCart::ShowControls();
 }
 
 // The controls know the search, which goes before them.

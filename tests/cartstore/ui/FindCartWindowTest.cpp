@@ -547,6 +547,19 @@ TEST_F(FindCartFormTest, WithoutItsFileTheAnimationIsMissing) {
   EXPECT_EQ(Numbers().size(), 4);
 }
 
+TEST_F(FindCartFormTest, TheAnimationMovesWhileItPlaysAndThenStandsStill) {
+  auto* film = The<SearchAnimation>("animFind");
+  if (window->AnimationMissing) GTEST_SKIP() << "this build plays no films";
+  const auto picture = [&] { return film->grab().toImage(); };
+  const QImage nothing = picture();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return picture() != nothing; })) << "its first picture";
+  const QImage first = picture();
+  film->Play();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != first; }));
+  film->Stop();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == first; }));
+}
+
 TEST_F(FindCartFormTest, AFileThatIsNoFilmCountsAsMissing) {
   folder().WriteFile("find.avi", "no film");
   os.programFolder = folder().Path();
