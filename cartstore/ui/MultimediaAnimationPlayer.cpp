@@ -35,16 +35,6 @@ bool ChooseBackend() {
   return !HasBackend("gstreamermediaplugin");
 }
 
-// Without the graphics card where the picture's format allows it, since one picture is small.
-QImage PictureOf(QVideoFrame frame) {
-  const QImage::Format format = QVideoFrameFormat::imageFormatFromPixelFormat(frame.pixelFormat());
-  if (format == QImage::Format_Invalid || !frame.map(QVideoFrame::ReadOnly)) return frame.toImage();
-  const QImage picture =
-      QImage(frame.bits(0), frame.width(), frame.height(), frame.bytesPerLine(0), format).copy();
-  frame.unmap();
-  return picture;
-}
-
 class MultimediaAnimationPlayer : public AnimationPlayer {
  public:
   MultimediaAnimationPlayer(const QString& hostFile, std::function<void(const QImage&)> show,
@@ -53,7 +43,7 @@ class MultimediaAnimationPlayer : public AnimationPlayer {
     player_.setLoops(QMediaPlayer::Infinite);
     QObject::connect(&sink_, &QVideoSink::videoFrameChanged, &player_,
                      [show = std::move(show)](const QVideoFrame& frame) {
-                       if (frame.isValid()) show(PictureOf(frame));
+                       if (frame.isValid()) show(frame.toImage());
                      });
     QObject::connect(&player_, &QMediaPlayer::errorOccurred, &player_,
                      [fail = std::move(fail)] { fail(); });
