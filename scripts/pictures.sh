@@ -10,7 +10,7 @@ build debug logchecker_pictures
 rm -rf build/pictures
 build/debug/bin/logchecker_pictures build/pictures 2>/dev/null
 for name in main-4-splits-1024-checked results-wide results-none select-hour about split-settings \
-  general-settings cart-locations; do
+  general-settings cart-locations cart-browser find-cart-found; do
   cp "build/pictures/$name.png" docs/pictures/
 done
 echo "Drawn: $(find build/pictures -name '*.png' | wc -l) pictures in build/pictures"

@@ -20,6 +20,7 @@
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/StationQString.h"
 #include "common/ui/frmGoodInputBox.h"
 #include "common/ui/frmSelectHour.h"
 #include "headless/SampleStation.h"
@@ -33,7 +34,6 @@
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
 #include "splitlogs/ui/frmLogFileSettings.h"
-#include "tests/support/OwnWindowsFolder.h"
 #include "tests/support/ScriptedPlatform.h"
 #include "tests/support/TempFolder.h"
 
@@ -230,13 +230,16 @@ void DrawSearch(Painter& painter) {
 }
 
 int Draw(const QString& folder) {
-  const OwnWindowsFolder windowsFolder;
+  // Of a fixed name, since it can be read in the pictures.
+  const std::string windowsFolder = FromQString(QDir::tempPath()) + "/logchecker-pictures-station";
+  QDir(QString::fromStdString(windowsFolder)).removeRecursively();
+  Os().system.SetWindowsFolder(windowsFolder);
   ScriptedPlatform os;
   os.now = kToday;
   SampleStation station;
   station.firstDay = kToday + 1;
   station.sizes.splits = kMostSplits;
-  WriteSampleStation(windowsFolder.folder().Path(), station);
+  WriteSampleStation(windowsFolder, station);
   const QtUserInterface userInterface;
   Painter painter(folder);
   for (const bool dark : {false, true}) {
