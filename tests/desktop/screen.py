@@ -33,13 +33,19 @@ class Screen:
                                 QT_QPA_PLATFORM="xcb")
         self.environment.pop("XDG_DOCUMENTS_DIR", None)
         self.folder.joinpath("config").mkdir()
-        self.manager = subprocess.Popen(["openbox"], env=self.environment,
-                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.manager = self.start_manager()
         self.programs = []
         self.seen = set()
         self.until(self.manager_is_ready, "window manager")
 
+    def start_manager(self):
+        return subprocess.Popen(["openbox"], env=self.environment, stdout=subprocess.DEVNULL,
+                                stderr=subprocess.DEVNULL)
+
     def manager_is_ready(self):
+        # It ends when it comes before the server is wholly up.
+        if self.manager.poll() is not None:
+            self.manager = self.start_manager()
         done = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"],
                               env=self.environment, capture_output=True, text=True, check=False)
         return "window id" in done.stdout
