@@ -5,6 +5,7 @@
 
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qputenv("LC_ALL", "C.UTF-8");
   testing::InitGoogleTest(&argc, argv);
   const QApplication application(argc, argv);
   QApplication::setStyle("Fusion");
