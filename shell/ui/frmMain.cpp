@@ -100,6 +100,9 @@ void frmMain::OnCheckDay() {
     area_->addSubWindow(checkBreaks_);
     checkBreaks_->Load(area_->viewport()->size());
   }
+  // Whoever asks for the check wants to see what it finds.
+  if (checkBreaks_->isMinimized()) checkBreaks_->showNormal();
+  area_->setActiveSubWindow(checkBreaks_);
   checkBreaks_->CheckBreaks();
 }
 

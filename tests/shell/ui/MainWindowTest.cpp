@@ -151,6 +151,11 @@ TEST_F(MainWindowTest, CheckDayOpensTheResultsOnceAndReusesThem) {
   EXPECT_EQ(Control<QAbstractItemView>(results, "lvwResults")->model()->rowCount(), 2);
   QTest::mouseClick(Control<QWidget>(main.get(), "lblCheckDay"), Qt::LeftButton);
   EXPECT_EQ(Results(), results);
+  results->showMinimized();
+  Area()->setActiveSubWindow(&Window(1));
+  Press("sftCheckBreaks");
+  EXPECT_FALSE(results->isMinimized());
+  EXPECT_EQ(Area()->activeSubWindow(), results) << "it comes to the front";
 }
 
 TEST_F(MainWindowTest, PrintBeginsEnabledAndThenFollowsTheResultsWindow) {
