@@ -1,6 +1,7 @@
 #include "platform/posix/PosixProfileFiles.h"
 
 #include "platform/ErrorNumbers.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/ProfileStore.h"
 #include "platform/posix/StationPath.h"
 
@@ -60,6 +61,7 @@ int32_t PosixProfileFiles::GetInt(const std::string& section, const std::string&
 int32_t PosixProfileFiles::WriteString(const std::string& section, const std::string& key,
                                        const std::string& value, const std::string& file) {
   const std::string path = ProfilePath(file);
+  const FolderLock lock(path);
   ProfileText text;
   if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
   text.Set(section, key, value);
@@ -69,6 +71,7 @@ int32_t PosixProfileFiles::WriteString(const std::string& section, const std::st
 int32_t PosixProfileFiles::DeleteKey(const std::string& section, const std::string& key,
                                      const std::string& file) {
   const std::string path = ProfilePath(file);
+  const FolderLock lock(path);
   ProfileText text;
   if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
   if (text.Find(section, key) == nullptr) return kNoError;
@@ -78,6 +81,7 @@ int32_t PosixProfileFiles::DeleteKey(const std::string& section, const std::stri
 
 int32_t PosixProfileFiles::DeleteSection(const std::string& section, const std::string& file) {
   const std::string path = ProfilePath(file);
+  const FolderLock lock(path);
   ProfileText text;
   if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
   text.DeleteSection(section);

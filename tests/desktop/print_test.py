@@ -28,7 +28,6 @@ def wait_for(condition, seconds=20):
     while time.monotonic() < end:
         if condition():
             return True
-        time.sleep(0.05)
     return False
 
 

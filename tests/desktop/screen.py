@@ -90,7 +90,6 @@ class Screen:
             result = condition()
             if result:
                 return result
-            time.sleep(0.02)
         self.picture("/tmp/logchecker-screen-failure.png")
         ended = [f"; {p.args[0]} ended with {p.returncode}: {p.stderr.read().decode()}"
                  for p in self.programs if p.poll() is not None]
