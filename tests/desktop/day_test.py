@@ -6,48 +6,21 @@ files must be logcheck's, byte for byte."""
 import datetime
 import pathlib
 import re
-import subprocess
 import sys
 
 import screen
+import work
 
 BIN = pathlib.Path(sys.argv[1])
-
-
-def caption(day):
-    return f"Velmar KLT Log Checker : {day:%A} {day.day} {day:%B %Y}$"
-
-
-def save(desk, path):
-    """Exports the results from the keyboard. The list has the focus."""
-    desk.keys("Tab", "space")
-    desk.window("^Export Results to CSV File", "save dialog")
-    desk.keys("ctrl+a")
-    desk.type(str(path))
-    desk.keys("Return")
-    desk.window("^Export Results to CSV File", "question about the new file")
-    desk.keys("Return")
-    box = desk.window("^Velmar KLT Log Checker$", "message about the saved report")
-    desk.keys("Return")
-    desk.gone(box)
-
-
-def expected(config, day):
-    done = subprocess.run([BIN / "logcheck", "check", "--settings", config / "velmar", "--format",
-                           "csv", "--date", day.isoformat()], capture_output=True, check=False)
-    assert done.returncode in (0, 1), done.stderr
-    return done.stdout
 
 
 def main():
     with screen.Screen() as desk:
         config = desk.folder / "config"
         tomorrow = datetime.date.today() + datetime.timedelta(days=1)
-        subprocess.run([BIN / "logcheck", "sample", config / "velmar", "--date",
-                        tomorrow.isoformat(), "--days", "3"], check=True,
-                       stdout=subprocess.DEVNULL)
+        work.write_sample(BIN, config, tomorrow, 3)
         program = desk.start(BIN / "logchecker")
-        frame = desk.window(caption(tomorrow), "main window with tomorrow in it")
+        frame = desk.window(work.caption(tomorrow), "main window with tomorrow in it")
 
         # Check the day with the mouse, on the label beside the button.
         before, after = desk.folder / "before.png", desk.folder / "after.png"
@@ -75,8 +48,8 @@ def main():
 
         report = desk.folder / "tomorrow.csv"
         # The click has selected one row, which stands for the whole list.
-        save(desk, report)
-        assert report.read_bytes() == expected(config, tomorrow), report.read_bytes()
+        work.save(desk, report)
+        assert report.read_bytes() == work.expected(BIN, config, tomorrow), report.read_bytes()
 
         # Another day, from the keyboard alone.
         desk.keys("ctrl+l")
@@ -84,11 +57,11 @@ def main():
         desk.keys("Right", "Right", "Return")
         desk.gone(picker)
         later = tomorrow + datetime.timedelta(days=2)
-        desk.until(lambda: re.search(caption(later), desk.name(frame)), "caption of the other day")
+        desk.until(lambda: re.search(work.caption(later), desk.name(frame)), "caption of the other day")
         desk.keys("ctrl+d")
         report = desk.folder / "later.csv"
-        save(desk, report)
-        assert report.read_bytes() == expected(config, later), report.read_bytes()
+        work.save(desk, report)
+        assert report.read_bytes() == work.expected(BIN, config, later), report.read_bytes()
 
         desk.keys("Escape")
         desk.keys("alt+f", "x")
