@@ -217,6 +217,21 @@ TEST_F(LoadCartInfoTest, APartThatGoesAwayAndComesBackIsPickedUp) {
   EXPECT_TRUE(ui.messages.empty());
 }
 
+// The directory is what is found, not each part's file.
+TEST_F(LoadCartInfoTest, APartFoundByAnotherOneOfItsDirectoryIsOpenedAfterItsFirstReadFailed) {
+  MakeStore(2000);
+  PartEntry(2).Path = PartEntry(1).Path;
+  CartInfo info{};
+  EXPECT_EQ(0, LoadCartInfo(info, 1));
+  EXPECT_EQ(kPartUsable, PartEntry(2).State);
+  EXPECT_FALSE(PartEntry(2).IsOpen);
+  EXPECT_EQ(kBadFileNumber, LoadCartInfo(info, 1001));
+  EXPECT_EQ(kPartUnusable, PartEntry(2).State);
+  EXPECT_EQ(0, LoadCartInfo(info, 1001));
+  EXPECT_EQ(kPartUsable, PartEntry(1).State) << "a part that is open stays so";
+  EXPECT_EQ(0, LoadCartInfo(info, 1));
+}
+
 TEST_F(LoadCartInfoTest, WhicheverCallFailsTheCartIsRightOrBlank) {
   OpenStore(20);
   PutCart(5, 30.0F);
