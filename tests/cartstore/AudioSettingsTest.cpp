@@ -152,6 +152,21 @@ TEST_F(BackupTest, PartsWithoutAListFileArePassedOver) {
   EXPECT_TRUE(IsCopied("3"));
 }
 
+TEST_F(BackupTest, PartsWithoutALocationAreNotLookedFor) {
+  gAudiowallParts = {};
+  os.script.Clear();
+  BackupCartLists(true);
+  EXPECT_TRUE(os.script.Calls().empty());
+}
+
+TEST_F(BackupTest, TheEleventhPartIsCopiedToo) {
+  gNumberOfCarts = 1000;  // the parts in use don't matter
+  PartEntry(11).Path = Path("p2");
+  folder().WriteFile("p2/Carts11.LST", "11");
+  BackupCartLists(false);
+  EXPECT_TRUE(folder().Exists("p2/Backups/2027-01-15/Carts11.LST"));
+}
+
 TEST_F(BackupTest, ACopyIsLookedForOneFolderTooHigh) {
   BackupCartLists(false);
   folder().WriteFile("p1/Carts1.LST", "newer");
