@@ -103,13 +103,14 @@ void frmCartLocations::OnDone() {
   Ui().SetMousePointer(MousePointer::kDefault);
 }
 
-// Takes a row's text into the part's location, and makes the directory where it isn't there.
+// Takes a row's text into the part's location, and makes the directory where it isn't there. What
+// the box holds in the end counts: with one directory for all it has taken row 1's text again.
 void frmCartLocations::TakeRow(int16_t part) {
   std::string text = TrimmedUpper(FromQString(BoxOf(part)->text()));
   DropLastBackslash(text);
   BoxOf(part)->setText(ToQString(text));
   std::string& path = PartEntry(part).Path;
-  path = TrimmedUpper(text);
+  path = TrimmedUpper(FromQString(BoxOf(part)->text()));
   if (!DirectoryExists(path)) CreatePath(path, false);
 }
 

@@ -43,6 +43,32 @@ TEST_F(AudioSettingsTest, EachKeyIsReadFromItsPlace) {
   EXPECT_EQ(gBlankCartInfo.ForeColor, gBlankCartRecord.ForeColor);
 }
 
+TEST_F(AudioSettingsTest, EachPartHasItsOwnKey) {
+  std::string text = "[FileLocations]\r\n";
+  for (int part = 1; part <= 11; ++part) {
+    text += "Carts" + std::to_string(part) + "=P" + std::to_string(part) + "\r\n";
+  }
+  folder().WriteFile("VELMAR.INI", text);
+  LoadAudioSettings("VELMAR.INI", "");
+  for (int16_t part = 1; part <= 11; ++part) {
+    EXPECT_EQ("P" + std::to_string(part), PartEntry(part).Path);
+  }
+}
+
+TEST_F(AudioSettingsTest, TheRegistryIsNeverRead) {
+  Os().directories.MakeDirectory(Path("wall"));
+  LoadAudioSettings("VELMAR.INI", "Software");
+  for (const std::string& call : os.script.Calls()) EXPECT_NE(0U, call.find("Registry.")) << call;
+}
+
+TEST_F(AudioSettingsTest, AStoreWithoutItsFileHasTheUsualNumberOfCarts) {
+  Load("", "[Audiowall]\r\nNoCarts=20\r\nVersion=2.6\r\n");
+  EXPECT_EQ(20, gNumberOfCarts);
+  Load("", "");
+  EXPECT_EQ(9999, gNumberOfCarts);
+  EXPECT_EQ(10, PartsInUse());
+}
+
 TEST_F(AudioSettingsTest, ALocationArrivesCutAt254Characters) {
   folder().WriteFile("VELMAR.INI", "[FileLocations]\r\nCarts2=" + std::string(300, 'P') + "\r\n");
   LoadAudioSettings("VELMAR.INI", "");
@@ -74,6 +100,17 @@ TEST_F(AudioSettingsTest, TheListFilesAreCopiedIntoADatedFolder) {
   Load("", "");
   EXPECT_EQ("one", folder().ReadFile("wall/Backups/2027-01-15/Carts1.lst"));
   EXPECT_EQ("one", folder().ReadFile("wall/Carts1.lst"));
+}
+
+TEST_F(AudioSettingsTest, AStoreOfThePresentVersionIsNotBackedUp) {
+  Os().directories.MakeDirectory(Path("wall"));
+  folder().WriteFile("wall/Carts1.lst", "one");
+  Load("", "[Audiowall]\r\nVersion=2.6\r\n");
+  EXPECT_FALSE(folder().Exists("wall/Backups"));
+  Load("", StoreFile());
+  EXPECT_FALSE(folder().Exists("wall/Backups"));
+  Load("", "[Audiowall]\r\nVersion=2.5\r\n");
+  EXPECT_TRUE(folder().Exists("wall/Backups"));
 }
 
 TEST_F(AudioSettingsTest, TheVersionIsMarkedAlsoWhenTheBackupFailed) {
@@ -115,6 +152,21 @@ TEST_F(BackupTest, PartsWithoutAListFileArePassedOver) {
   EXPECT_TRUE(IsCopied("3"));
 }
 
+TEST_F(BackupTest, PartsWithoutALocationAreNotLookedFor) {
+  gAudiowallParts = {};
+  os.script.Clear();
+  BackupCartLists(true);
+  EXPECT_TRUE(os.script.Calls().empty());
+}
+
+TEST_F(BackupTest, TheEleventhPartIsCopiedToo) {
+  gNumberOfCarts = 1000;  // the parts in use don't matter
+  PartEntry(11).Path = Path("p2");
+  folder().WriteFile("p2/Carts11.LST", "11");
+  BackupCartLists(false);
+  EXPECT_TRUE(folder().Exists("p2/Backups/2027-01-15/Carts11.LST"));
+}
+
 TEST_F(BackupTest, ACopyIsLookedForOneFolderTooHigh) {
   BackupCartLists(false);
   folder().WriteFile("p1/Carts1.LST", "newer");
@@ -126,6 +178,25 @@ TEST_F(BackupTest, ACopyIsLookedForOneFolderTooHigh) {
   EXPECT_EQ("newer", folder().ReadFile("p1/Backups/2027-01-15/Carts1.LST"));
   BackupCartLists(true);
   EXPECT_EQ("newest", folder().ReadFile("p1/Backups/2027-01-15/Carts1.LST"));
+}
+
+class TitleUi : public RecordingUi {
+ public:
+  void ShowFileProgress(const std::string& title, int64_t /*done*/, int64_t /*total*/) override {
+    if (titles.empty() || titles.back() != title) titles.push_back(title);
+  }
+  std::vector<std::string> titles;
+};
+
+TEST_F(BackupTest, TheProgressOfEachCopyNamesItsPartAndNothingIsAsked) {
+  TitleUi titled;
+  BackupCartLists(false);
+  BackupCartLists(true);
+  EXPECT_EQ((std::vector<std::string>{
+                "Backing up Audio Wall lists - Part 1", "Backing up Audio Wall lists - Part 3",
+                "Backing up Audio Wall lists - Part 1", "Backing up Audio Wall lists - Part 3"}),
+            titled.titles);
+  EXPECT_TRUE(titled.messages.empty()) << "a copy of the same day is replaced";
 }
 
 TEST_F(BackupTest, TheFirstFailureEndsIt) {

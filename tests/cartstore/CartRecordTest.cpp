@@ -76,6 +76,34 @@ TEST(CartRecord, NumbersAreReadAtTheirOffsets) {
   EXPECT_EQ(19, info.Aux298);
 }
 
+// The texts of one line each, as they lie in a record with nothing else in it.
+struct LineOnDisk {
+  size_t head;
+  size_t tail;
+  std::string text;
+};
+const LineOnDisk kLines[] = {
+    {0, 70, std::string(20, 'a') + std::string(30, 'A')},
+    {20, 100, std::string(20, 'b') + std::string(30, 'B')},
+    {40, 130, std::string(20, 'c') + std::string(30, 'C')},
+};
+
+TEST(CartRecord, EachLineIsReadAndWrittenAtItsOffsets) {
+  auto bytes = BlankBytes();
+  for (const LineOnDisk& line : kLines) {
+    std::memcpy(bytes.data() + line.head, line.text.data(), 20);
+    std::memcpy(bytes.data() + line.tail, line.text.data() + 20, 30);
+  }
+  CartInfo info;
+  CartInfoFromRecord(info, FromBytes(bytes));
+  EXPECT_EQ(kLines[0].text, Text(info.Line1));
+  EXPECT_EQ(kLines[1].text, Text(info.Line2));
+  EXPECT_EQ(kLines[2].text, Text(info.Line3));
+  CartRecord record;
+  CartRecordFromInfo(record, info);
+  EXPECT_EQ(0, std::memcmp(bytes.data(), &record, sizeof record));
+}
+
 TEST(CartRecord, ATailEndsAtItsFirstNulAndAHeadDoesNot) {
   struct Case {
     std::string head;

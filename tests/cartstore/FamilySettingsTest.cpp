@@ -105,12 +105,59 @@ TEST_F(FamilySettingsTest, SomeDefaultsFollowOtherKeys) {
   EXPECT_EQ(5, Number("Audio/SweptVolume"));
 }
 
+TEST_F(FamilySettingsTest, WhatStandsWithTheStoreIsReadFromTheStoresFile) {
+  Os().directories.MakeDirectory(Path("wall"));
+  const auto text = [](const std::string& n, const std::string& word) {
+    return "[Audiowall]\r\nVersion=3\r\nPictureFileExtension=" + word +
+           "\r\nAllowAudioFileLinking=" + n + "\r\n[CartChunk]\r\nUseCopyrightInCartChunk=" + n +
+           "\r\n[CDRipping]\r\nAskBeforeProcess=" + n + "\r\nNormaliseAudioPercent=" + n +
+           "\r\nAutoTopAudio=" + n + "\r\n[CDDB]\r\nAllowCDDB=" + n + "\r\nServerAddress=" + word +
+           "\r\nEmailAddress=" + word + "\r\nAllowSubmit=" + n + "\r\n";
+  };
+  folder().WriteFile("wall/Audwall.ini", text("7", "store"));
+  Load("[FileLocations]\r\nCarts1=" + Path("wall") + "\r\n" + text("8", "family"));
+  for (const char* key : {"Audiowall/AllowAudioFileLinking", "CartChunk/UseCopyrightInCartChunk",
+                          "CDRipping/AskBeforeProcess", "CDRipping/NormaliseAudioPercent",
+                          "CDRipping/AutoTopAudio", "CDDB/AllowCDDB", "CDDB/AllowSubmit"}) {
+    EXPECT_EQ(7, Number(key)) << key;
+  }
+  for (const char* key :
+       {"Audiowall/PictureFileExtension", "CDDB/ServerAddress", "CDDB/EmailAddress"}) {
+    EXPECT_EQ("store", gFamilySettings.Texts.at(key)) << key;
+  }
+}
+
+TEST_F(FamilySettingsTest, TheRestIsReadFromTheFamilysFile) {
+  Load();
+  const auto defaults = gFamilySettings.Numbers;
+  std::map<std::string, std::string> sections;
+  for (const auto& [name, value] : defaults) {
+    const size_t slash = name.find('/');
+    const std::string key = name.substr(slash + 1);
+    // With ducking on, the swept volume is not read.
+    const int32_t other = key == "UsePlayerDucking" ? 0 : (key == "RecordingSoundCard" ? 0 : 77);
+    sections[name.substr(0, slash)] += key + "=" + std::to_string(other) + "\r\n";
+  }
+  std::string family;
+  for (const auto& [section, keys] : sections) family += "[" + section + "]\r\n" + keys;
+  Load(family);
+  for (const auto& [name, value] : gFamilySettings.Numbers) {
+    const bool ofTheStore = name.find("CDRipping/") == 0 || name.find("CDDB/") == 0;
+    const bool off = name == "Audio/UsePlayerDucking" || name == "Audio/RecordingSoundCard";
+    EXPECT_EQ(ofTheStore ? defaults.at(name) : (off ? 0 : 77), value) << name;
+  }
+  EXPECT_EQ(1, gFamilySettings.TotalNumberCartPlayers);
+}
+
 TEST_F(FamilySettingsTest, TheRecordingDeviceIsCutToOneAboveTheLastSuitable) {
   os.waveInFormats = {kWaveFormat4M16, kWaveFormat4M16, 0};
   Load("[Audio]\r\nRecordingSoundCard=9\r\n");
   EXPECT_EQ(2, Number("Audio/RecordingSoundCard"));
   Load("[Audio]\r\nRecordingSoundCard=2\r\n");
   EXPECT_EQ(2, Number("Audio/RecordingSoundCard"));
+  os.waveInFormats = {kWaveFormat4S16, 0};
+  Load("[Audio]\r\nRecordingSoundCard=2\r\n");
+  EXPECT_EQ(1, Number("Audio/RecordingSoundCard")) << "none is suitable";
 }
 
 TEST_F(FamilySettingsTest, ThereIsRoomForOnePlayer) {

@@ -21,6 +21,13 @@ class LoadCartInfoTest : public StationTest {
     EXPECT_EQ(0, LoadCartInfo(info, cart)) << cart;
     return info.Length;
   }
+  // The file number that is handed out next.
+  static int16_t FreeNumber() {
+    int16_t number = 0;
+    EXPECT_EQ(kNoError, RealPlatform().files.FreeFile(&number));
+    RealPlatform().files.Abandon(number);
+    return number;
+  }
   // Puts a record whose lengths are these at cart 1 and loads it.
   CartInfo Load(float total, float start, float end, float play) {
     CartRecord record = RecordOfLength(9);
@@ -125,12 +132,63 @@ TEST_F(LoadCartInfoTest, AnOwnListFileThatCannotBeReadIsAnErrorOfItsOwn) {
   PutCart(42, 10.0F);
   folder().WriteFile("part1/VEL00042.LST", "x");
   gAudioSettings.UseIndividualCartListFiles = true;
-  CartInfo info{};
+  const int32_t held = FreeNumber();
+  for (const char* call :
+       {"Files.FreeFile", "Files.OpenRandom", "Files.GetRecord", "Files.Close"}) {
+    CartInfo info{};
+    os.script.Clear();
+    os.script.FailNamed(call, 1, kPermissionDenied);
+    EXPECT_EQ(kPermissionDenied, LoadCartInfo(info, 42)) << call;
+    EXPECT_TRUE(IsBlank(info)) << call;
+    EXPECT_EQ(kPartUsable, PartEntry(1).State) << call;
+    EXPECT_EQ(held, FreeNumber()) << call << ": its number is given back";
+  }
+  EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(LoadCartInfoTest, ACartIsOneReadOfTheOpenFileOrOneOpeningOfItsOwn) {
+  OpenStore(100);
   os.script.Clear();
-  os.script.FailNamed("Files.OpenRandom", 1, kPermissionDenied);
-  EXPECT_EQ(kPermissionDenied, LoadCartInfo(info, 42));
+  EXPECT_EQ(0.0F, LengthOf(42));
+  EXPECT_EQ((std::vector<std::string>{"Files.GetRecord"}), os.script.Calls());
+  const CartRecord own = RecordOfLength(20.0F);
+  folder().WriteFile("part1/VEL00042.LST",
+                     std::string_view(reinterpret_cast<const char*>(&own), sizeof own));
+  gAudioSettings.UseIndividualCartListFiles = true;
+  os.script.Clear();
+  EXPECT_EQ(20.0F, LengthOf(42));
+  EXPECT_EQ((std::vector<std::string>{"Files.FileLength", "Files.FreeFile", "Files.OpenRandom",
+                                      "Files.GetRecord", "Files.Close"}),
+            os.script.Calls());
+}
+
+TEST_F(LoadCartInfoTest, AListFilesNameIsTheSameInAnyCase) {
+  MakeStore(20);
+  gAudioSettings.UseIndividualCartListFiles = true;
+  const CartRecord in[] = {RecordOfLength(10.0F), RecordOfLength(20.0F)};
+  folder().WriteFile("part1/CARTS1.LST",
+                     std::string_view(reinterpret_cast<const char*>(in), sizeof in));
+  folder().WriteFile("part1/vel00002.lst",
+                     std::string_view(reinterpret_cast<const char*>(&in[0]), sizeof in[0]));
+  EXPECT_EQ(0, OpenAudiowall(0, false));
+  EXPECT_TRUE(ui.messages.empty());
+  EXPECT_EQ(10.0F, LengthOf(1));
+  EXPECT_EQ(10.0F, LengthOf(2));
+  gAudioSettings.UseIndividualCartListFiles = false;
+  EXPECT_EQ(20.0F, LengthOf(2));
+}
+
+TEST_F(LoadCartInfoTest, APartWithoutALocationBecomesUnusableByARead) {
+  MakeStore(2000);
+  PartEntry(2).Path = "";
+  EXPECT_EQ(-1, OpenAudiowall(0, true));
+  CartInfo info{};
+  EXPECT_EQ(-1, LoadCartInfo(info, 1001));
   EXPECT_TRUE(IsBlank(info));
+  EXPECT_EQ(kPartUnusable, PartEntry(2).State);
+  EXPECT_EQ(0, LoadCartInfo(info, 1)) << "the other parts are opened by their own reads";
   EXPECT_EQ(kPartUsable, PartEntry(1).State);
+  EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST_F(LoadCartInfoTest, APartWhoseReadFailedIsOpenedAgainByTheNextCall) {
@@ -157,6 +215,21 @@ TEST_F(LoadCartInfoTest, APartThatGoesAwayAndComesBackIsPickedUp) {
   std::filesystem::rename(Path("away"), Path("part1"));
   EXPECT_EQ(30.0F, LengthOf(5));
   EXPECT_TRUE(ui.messages.empty());
+}
+
+// The directory is what is found, not each part's file.
+TEST_F(LoadCartInfoTest, APartFoundByAnotherOneOfItsDirectoryIsOpenedAfterItsFirstReadFailed) {
+  MakeStore(2000);
+  PartEntry(2).Path = PartEntry(1).Path;
+  CartInfo info{};
+  EXPECT_EQ(0, LoadCartInfo(info, 1));
+  EXPECT_EQ(kPartUsable, PartEntry(2).State);
+  EXPECT_FALSE(PartEntry(2).IsOpen);
+  EXPECT_EQ(kBadFileNumber, LoadCartInfo(info, 1001));
+  EXPECT_EQ(kPartUnusable, PartEntry(2).State);
+  EXPECT_EQ(0, LoadCartInfo(info, 1001));
+  EXPECT_EQ(kPartUsable, PartEntry(1).State) << "a part that is open stays so";
+  EXPECT_EQ(0, LoadCartInfo(info, 1));
 }
 
 TEST_F(LoadCartInfoTest, WhicheverCallFailsTheCartIsRightOrBlank) {

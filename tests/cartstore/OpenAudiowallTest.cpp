@@ -53,6 +53,17 @@ TEST_F(OpenAudiowallTest, CancelEndsAtOnceAndLeavesTheLaterParts) {
   EXPECT_FALSE(PartEntry(2).IsOpen);
 }
 
+TEST_F(OpenAudiowallTest, NoPassesOverThatPartAlone) {
+  MakeStore(3000);
+  ui.answers = {kYes, kNo, kYes};
+  EXPECT_EQ(0, OpenAudiowall(0, false));
+  EXPECT_EQ(3U, ui.messages.size());
+  EXPECT_EQ((States{1, 1, 1}), StatesOf(3));
+  EXPECT_FALSE(PartEntry(2).IsOpen);
+  EXPECT_FALSE(folder().Exists("part2/Carts2.lst"));
+  EXPECT_TRUE(folder().Exists("part3/Carts3.lst"));
+}
+
 TEST_F(OpenAudiowallTest, AfterNoTheFirstReadFailsAndTheSecondMakesTheFile) {
   MakeStore(20);
   ui.answers = {kNo};
@@ -101,6 +112,56 @@ TEST_F(OpenAudiowallTest, AMissingDirectoryIsToldOnceForAllPartsInIt) {
           Path("gone") + "\"\n\n could not be found",
       ui.messages[0].text);
   EXPECT_EQ((States{1, 2, 2, 1}), StatesOf(4));
+}
+
+TEST_F(OpenAudiowallTest, AnErrorOfTheListingStandsInTheMessageOfTheDirectory) {
+  MakeStore(20);
+  os.script.FailNamed("Directories.FirstName", 0, kDeviceIoError);
+  EXPECT_EQ(-1, OpenAudiowall(0, false));
+  ASSERT_EQ(1U, ui.messages.size());
+  EXPECT_EQ(
+      "There was a problem connecting part(s) of the Audio Wall because the directory: \n\n\"" +
+          Path("part1") +
+          "\"\n\n could not be found and the error's description was reported as : "
+          "\n\n\"Device I/O error\" (57)",
+      ui.messages[0].text);
+}
+
+TEST_F(OpenAudiowallTest, FailuresOfOpeningAndFillingAreNotTold) {
+  for (const char* call : {"Files.FreeFile", "Files.OpenRandom", "Files.LengthOfOpenFile",
+                           "Files.PutRecord", "Files.Close"}) {
+    ResetGlobals();
+    MakeStore(20);
+    folder().WriteFile("part1/Carts1.lst", "");
+    os.script.Clear();
+    os.script.FailNamed(call, 0, kDiskFull);
+    EXPECT_EQ(0, OpenAudiowall(0, false)) << call;
+    EXPECT_TRUE(os.script.HasFailed()) << call;
+    EXPECT_EQ(kPartUsable, PartEntry(1).State) << call;
+    EXPECT_TRUE(PartEntry(1).IsOpen) << call;
+    RealPlatform().files.CloseAll();
+  }
+  EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(OpenAudiowallTest, ANameThatAPartHasIsKept) {
+  MakeStore(20);
+  PartEntry(1).FileName = "Other.lst";
+  EXPECT_EQ(0, OpenAudiowall(0, true));
+  EXPECT_EQ(Path("part1") + "\\Other.lst", PartEntry(1).FullFileName);
+  EXPECT_TRUE(folder().Exists("part1/Other.lst"));
+  EXPECT_FALSE(folder().Exists("part1/Carts1.lst"));
+}
+
+TEST_F(OpenAudiowallTest, TheBlankCartIsBuiltAnew) {
+  MakeStore(20);
+  gAudioSettings.EmptyCartBackColor = 123;
+  gAudioSettings.EmptyCartForeColor = 456;
+  EXPECT_EQ(0, OpenAudiowall(0, true));
+  EXPECT_EQ(123, gBlankCartInfo.BackColor);
+  EXPECT_EQ(456, gBlankCartRecord.ForeColor);
+  const std::string blank(reinterpret_cast<const char*>(&gBlankCartRecord), kCartRecordLength);
+  EXPECT_EQ(blank, folder().ReadFile("part1/Carts1.lst").substr(0, kCartRecordLength));
 }
 
 TEST_F(OpenAudiowallTest, NoPartUsableIsAFailure) {

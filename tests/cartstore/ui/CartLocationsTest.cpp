@@ -86,9 +86,15 @@ TEST_F(CartLocationsTest, WithTheBoxTickedRowOneShowsInAllAtOnce) {
   }
   Box(1)->setText("D:\\B");
   EXPECT_EQ(Text(7), "D:\\B");
+  Box(5)->setText("E:\\OTHER");
+  EXPECT_EQ(Text(5), "D:\\B") << "a change of another row brings row 1's text back";
   One()->click();
   EXPECT_EQ(Text(7), "D:\\B") << "the texts stay";
-  EXPECT_TRUE(Box(7)->isEnabled());
+  for (int part = 2; part <= 11; ++part) {
+    for (const char* name : {"Label2_%1", "txtCartLocations%1", "cmdChangeCartLocation%1"}) {
+      EXPECT_TRUE(Control<QWidget>(dialog.get(), qPrintable(QString(name).arg(part)))->isEnabled());
+    }
+  }
   Box(1)->setText("E:\\C");
   EXPECT_EQ(Text(7), "D:\\B");
 }
@@ -116,6 +122,59 @@ TEST_F(CartLocationsTest, OkSavesAllElevenKeysInUpperCaseWithoutTheLastBackslash
   EXPECT_FALSE(dialog->isVisible());
   EXPECT_EQ(dialog->Tag, "");
   EXPECT_EQ(ui.pointer, MousePointer::kDefault);
+}
+
+TEST_F(CartLocationsTest, TwoBackslashesAtTheEndAreCutAndNoMore) {
+  struct Case {
+    const char* typed;
+    const char* stored;
+  };
+  gNumberOfCarts = 1000;
+  os.script.FailNamed("Directories.MakeDirectory", 0, kPermissionDenied);
+  for (const bool one : {false, true}) {
+    for (const Case& row :
+         {Case{"c:\\audio", "C:\\AUDIO"}, Case{"c:\\audio\\", "C:\\AUDIO"},
+          Case{"c:\\audio\\\\", "C:\\AUDIO"}, Case{"c:\\audio\\\\\\", "C:\\AUDIO\\"},
+          Case{" c:\\audio \\ ", "C:\\AUDIO"}, Case{"\\", ""}}) {
+      Open();
+      One()->setChecked(one);
+      for (int part = 1; part <= 11; ++part) Box(part)->setText(row.typed);
+      Done();
+      for (int part = 1; part <= 11; ++part) {
+        EXPECT_EQ(Stored(part), row.stored) << row.typed << " " << part << (one ? " one" : "");
+        EXPECT_EQ(gAudiowallParts[part - 1].Path, row.stored);
+      }
+    }
+  }
+}
+
+TEST_F(CartLocationsTest, WithTheBoxTickedAllElevenKeysAreWrittenWithRowOnesText) {
+  gNumberOfCarts = 1000;
+  for (int part = 1; part <= 11; ++part) {
+    gAudiowallParts[part - 1].Path = Path("A" + std::to_string(part));
+  }
+  Open();
+  One()->setChecked(true);
+  Box(1)->setText(QString::fromStdString(Path("one")));
+  ui.answers = {MessageAnswer::kNo};
+  Done();
+  const std::string upper = QString::fromStdString(Path("one")).toUpper().toStdString();
+  for (int part = 1; part <= 11; ++part) {
+    EXPECT_EQ(Stored(part), upper) << part;
+    EXPECT_EQ(gAudiowallParts[part - 1].Path, upper) << part;
+  }
+}
+
+TEST_F(CartLocationsTest, ThePointerIsTheHourglassWhileOkWorks) {
+  Os().directories.MakeDirectory(Path("STORE"));
+  for (AudiowallPart& part : gAudiowallParts) part.Path = Path("STORE");
+  ui.SetMousePointer(MousePointer::kHourglass);
+  Open();
+  EXPECT_EQ(ui.pointer, MousePointer::kDefault) << "the dialog is ready";
+  ui.pointers.clear();
+  Done();
+  EXPECT_EQ(ui.pointers,
+            (std::vector<MousePointer>{MousePointer::kHourglass, MousePointer::kDefault}));
 }
 
 TEST_F(CartLocationsTest, AMissingDirectoryIsMade) {
@@ -149,6 +208,7 @@ TEST_F(CartLocationsTest, PartsWithoutALocationAreSaid) {
   ASSERT_EQ(ui.messages.size(), 1U);
   EXPECT_EQ(ui.messages[0].text,
             "3 locations of the AudioWall have not been set : Please check your configuration.");
+  EXPECT_FALSE(dialog->isVisible()) << "that the store can't be opened keeps nothing up";
 }
 
 TEST_F(CartLocationsTest, EscapeAndTheCloseBoxLeaveEverythingAsItWas) {

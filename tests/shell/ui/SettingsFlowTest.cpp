@@ -128,11 +128,14 @@ TEST_F(SettingsFlowTest, AfterCancelTheSplitIsReadAndLoadedAllTheSame) {
 
 TEST_F(SettingsFlowTest, CartLocationsAreChangedFromTheMenuAndOnlyTheStoreIsOpenedAnew) {
   Os().profiles.WriteString("Audiowall", "NoCarts", "2000", Path("part1") + "\\Audwall.ini");
-  DialogScript script([](QDialog* dialog) {
+  DialogScript script([this](QDialog* dialog) {
     EXPECT_EQ(dialog->objectName(), "frmCartLocations");
+    EXPECT_TRUE(dialog->isModal());
+    EXPECT_EQ(dialog->parentWidget(), main.get());
     PressIn(dialog, "cmdDone");
   });
   Entry("mnuCartLocations")->trigger();
+  EXPECT_EQ(Os().profiles.GetString("FileLocations", "Carts11", "missing", 255, "VELMAR.INI"), "");
   EXPECT_EQ(gNumberOfCarts, 1000) << "the number of carts is read at the next start";
   EXPECT_EQ(gAudiowallParts[0].State, kPartUsable);
 }
