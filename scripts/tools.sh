@@ -44,6 +44,8 @@ build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev qt6-multimedia-d
 test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-dev
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core poppler-utils cups cups-ipp-utils)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
+package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
+  python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
 fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)

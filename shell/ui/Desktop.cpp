@@ -55,6 +55,7 @@ int RunDesktop(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setApplicationName("logchecker");
   QApplication::setApplicationVersion(kVersion);
+  QApplication::setDesktopFileName("org.logchecker.LogChecker");
   QApplication::setWindowIcon(IconNamed("program"));
   // The end of the program is the main window's, not that of the last window to close.
   QApplication::setQuitOnLastWindowClosed(false);
