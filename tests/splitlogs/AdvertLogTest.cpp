@@ -67,6 +67,15 @@ TEST(AdvertLogLine, TheOldFormIsMovedIntoTheColumnsOfTheCurrentOne) {
   EXPECT_EQ("06:00:00|NTH      23 ", NormaliseLogLine("06:00|NTH  23"));
 }
 
+TEST(AdvertLogLine, EachColumnOfTheOldFormHasItsPlaceInTheCurrentOne) {
+  const std::string old = "abcde|ghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ01234567";
+  EXPECT_EQ("abcde:00|ghijk    lmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTU VWXYZ01234567",
+            NormaliseLogLine(old));
+  EXPECT_EQ("GHIJ", GetLineTXChainCode(old));
+  EXPECT_EQ("qrstuvwxyzABCDEFGHIJKLMNOPQRST", GetLineDescription(old));
+  EXPECT_EQ("Z01234567", GetLineReference(old));
+}
+
 TEST(AdvertLogLine, AnOldLineOf47CharactersEndsWithABlankAtColumn55) {
   const std::string old = std::string(kOld).substr(0, 47);
   const std::string current = NormaliseLogLine(old);

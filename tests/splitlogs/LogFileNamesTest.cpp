@@ -47,6 +47,10 @@ TEST_F(LogFileNamesTest, EachTokenOfADateCountsInUpperCase) {
       {"MMDD", "0115"},
       {"YY_MM_DD", "27_01_15"},
       {"YYYY MM DD", "2027 01 15"},
+      {"DDDDD", clock.ShortDate(kDay)},
+      {"DDDDDD", clock.LongDate(kDay)},
+      {"YY#MM+DD!7", "27#01+15!7"},
+      {"", ""},
       {"\"LOG\"YYMMDD", "LOG270115"},
       {"\\DYYMMDD", "D270115"},
   };
