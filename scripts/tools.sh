@@ -48,6 +48,8 @@ package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev deskt
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
 fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
+coverage_packages=("${test_packages[@]}" gcovr)
+memory_packages=("${build_packages[@]}" "${test_packages[@]}" valgrind)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.

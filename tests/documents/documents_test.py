@@ -1,0 +1,138 @@
+#!/usr/bin/env python3
+"""Runs every code sample of the documents and holds what it prints against what the document says.
+Takes the folder of the programs.
+
+A sample is a fenced block: "console" with commands behind "$ " and what they print ("..." stands for any
+lines), "ini" for a unit of the system's scheduler, "bat" for a command of the Windows scheduler. Each
+document has a folder of its own, with nothing in it, in which its samples run in their order."""
+
+import configparser
+import difflib
+import os
+import pathlib
+import re
+import shlex
+import subprocess
+import sys
+import tempfile
+
+HERE = pathlib.Path(__file__).resolve().parent.parent.parent
+PROGRAMS = pathlib.Path(sys.argv[1]).resolve()
+FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
+LINK = re.compile(r"\]\(([^)#]+)(?:#[^)]*)?\)")
+
+
+class Document:
+    def __init__(self, path, folder):
+        self.path = path
+        self.text = path.read_text(encoding="utf-8")
+        self.folder = folder
+        self.status = 0
+        self.environment = dict(
+            os.environ, HOME=str(folder), XDG_CONFIG_HOME=str(folder / "config"), LC_ALL="C.UTF-8",
+            TZ="UTC", QT_QPA_PLATFORM="offscreen", PATH=f"{PROGRAMS}:{os.environ['PATH']}")
+        self.problems = []
+        self.samples = 0
+
+    def check(self):
+        for match in FENCE.finditer(self.text):
+            line = self.text.count("\n", 0, match.start()) + 1
+            self.samples += 1
+            run = {"console": self.console, "ini": self.unit, "bat": self.scheduled}.get(match.group(1))
+            if run is None:
+                self.problem(line, f"a sample of an unknown kind: {match.group(1)!r}")
+            else:
+                run(line, match.group(2))
+        without = FENCE.sub("", self.text)
+        if re.search(r"\n\n    \S", without):
+            self.problem(0, "an indented sample, which nobody runs")
+        for target in LINK.findall(without):
+            if "://" not in target and not (self.path.parent / target).exists():
+                self.problem(0, f"a link that leads nowhere: {target}")
+
+    def problem(self, line, text):
+        self.problems.append(f"{self.path.relative_to(HERE)}:{line}: {text}")
+
+    def shell(self, command):
+        done = subprocess.run(["bash", "-c", f"(exit {self.status})\n{command}"], cwd=self.folder,
+                              env=self.environment, stdout=subprocess.PIPE,
+                              stderr=subprocess.STDOUT, check=False, timeout=120)
+        self.status = done.returncode
+        return done.stdout.decode("utf-8", "replace")
+
+    def console(self, line, block):
+        for part in re.split(r"^\$ ", block, flags=re.MULTILINE)[1:]:
+            command, _, expected = part.partition("\n")
+            while command.endswith("\\"):
+                more, _, expected = expected.partition("\n")
+                command = command[:-1] + more
+            self.compare(line, command, expected, self.shell(command))
+        if not block.startswith("$ "):
+            self.problem(line, "a sample without a command")
+
+    def compare(self, line, command, expected, printed):
+        pattern = ".*?".join(re.escape(piece) for piece in re.split(r"^\.\.\.\n", expected,
+                                                                   flags=re.MULTILINE))
+        blanks = re.compile(r"[ \t\r]+$", re.MULTILINE)
+        if re.fullmatch(pattern, blanks.sub("", printed), re.DOTALL) is None:
+            self.problem(line, f"$ {command}\n" + "\n".join(difflib.unified_diff(
+                expected.splitlines(), printed.splitlines(), "the document", "the program",
+                lineterm="")))
+
+    def sample_tomorrow(self):
+        self.shell("rm -rf config && logcheck sample config/velmar")
+
+    def command_works(self, line, command):
+        """Runs a check that finds tomorrow's mistakes."""
+        done = subprocess.run(command, cwd=self.folder, env=self.environment, capture_output=True,
+                              check=False, timeout=120)
+        if done.returncode != 1:
+            self.problem(line, f"{command} ended with {done.returncode}: {done.stderr.decode()}")
+
+    def unit(self, line, block):
+        parser = configparser.ConfigParser(strict=True, interpolation=None)
+        parser.optionxform = str
+        parser.read_string(block)
+        if parser.has_option("Service", "ExecStart"):
+            self.sample_tomorrow()
+            command = parser.get("Service", "ExecStart").replace("%h", str(self.folder))
+            words = shlex.split(command)
+            words[0] = str(PROGRAMS / pathlib.Path(words[0]).name)
+            self.command_works(line, words)
+        elif parser.has_option("Timer", "OnCalendar"):
+            if not re.fullmatch(r"\*-\*-\* \d\d:\d\d", parser.get("Timer", "OnCalendar")):
+                self.problem(line, "no time of day")
+        else:
+            self.problem(line, "neither a service nor a timer")
+
+    def scheduled(self, line, block):
+        match = re.search(r'/TR "([^"]*)"', block)
+        if match is None:
+            self.problem(line, "no command")
+            return
+        self.sample_tomorrow()
+        # The drive of the sample is a folder here.
+        (self.folder / "config/velmar/drives/c/LogChecker").mkdir(parents=True)
+        words = match.group(1).split()
+        if words[0] != r"C:\LogChecker\logcheck.exe":
+            self.problem(line, "not the program")
+        self.command_works(line, [str(PROGRAMS / "logcheck"), *words[1:]])
+
+
+def main():
+    problems = []
+    samples = 0
+    for path in [HERE / "README.md", HERE / "CONTRIBUTING.md", *sorted(HERE.glob("docs/*.md")),
+                 *sorted(HERE.glob("tests/rules/*.md"))]:
+        with tempfile.TemporaryDirectory(prefix="logchecker-documents-") as folder:
+            document = Document(path, pathlib.Path(folder))
+            document.check()
+            problems += document.problems
+            samples += document.samples
+    for problem in problems:
+        print(problem)
+    print(f"{samples} samples run")
+    return 1 if problems or samples == 0 else 0
+
+
+sys.exit(main())
