@@ -25,5 +25,7 @@ report() {
   gcovr --root . --add-tracefile build/coverage/lines.json --sort-percentage --fail-under-line "$least" "$@" |
     awk '/^-+$/ || /^TOTAL/ || /^File/ { print; next } $4 + 0 < 90 { print }'
 }
-report "the plain half" 95 --exclude '.*/ui/'
-report "the windows" 85 --filter '.*/ui/'
+result=0
+report "the plain half" 95 --exclude '.*/ui/' || result=1
+report "the windows" 85 --filter '.*/ui/' || result=1
+exit "$result"

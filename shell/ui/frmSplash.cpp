@@ -109,7 +109,7 @@ void frmSplash::showEvent(QShowEvent* event) {
 
 void frmSplash::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) update();
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) Ui().Yield();
 }
 
 // A hair line around the window, which has no frame of its own.
