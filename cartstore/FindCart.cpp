@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "cartstore/KeyCodes.h"
-#include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"

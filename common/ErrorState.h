@@ -5,7 +5,7 @@
 #include <exception>
 #include <string>
 
-#include "platform/ErrorNumbers.h"
+#include "platform/ErrorNumbers.h"  // IWYU pragma: export
 
 namespace logchecker {
 

@@ -1,6 +1,6 @@
 #include "headless/CommandLine.h"
 
-#include <CLI/CLI.hpp>
+#include <CLI/CLI.hpp>  // IWYU pragma: keep
 #include <algorithm>
 #include <array>
 #include <charconv>

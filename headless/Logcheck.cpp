@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "common/Dates.h"
-#include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
 #include "headless/CommandLine.h"
 #include "headless/Output.h"
@@ -11,7 +10,6 @@
 #include "headless/SampleStation.h"
 #include "headless/Station.h"
 #include "platform/StandardStreams.h"
-#include "platform/StationText.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"

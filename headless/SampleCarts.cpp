@@ -5,7 +5,6 @@
 
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "headless/SamplePlan.h"
-#include "headless/Station.h"
 
 namespace logchecker {
 

@@ -4,7 +4,7 @@
 
 #include "platform/Clock.h"
 #include "platform/Directories.h"
-#include "platform/ErrorNumbers.h"
+#include "platform/ErrorNumbers.h"  // IWYU pragma: export
 #include "platform/Files.h"
 #include "platform/ProfileFiles.h"
 #include "platform/RegistryCalls.h"

@@ -1,7 +1,6 @@
 // What the words of rich text mean to the reader.
 #pragma once
 
-#include <cstdint>
 #include <string_view>
 
 namespace logchecker {

@@ -46,7 +46,7 @@ test_packages=("${build_packages[@]}" libgtest-dev libgmock-dev librapidcheck-de
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
-lint_packages=("${test_packages[@]}" clang-format clang-tidy python3)
+lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)
 fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
 coverage_packages=("${test_packages[@]}" gcovr)
 memory_packages=("${build_packages[@]}" "${test_packages[@]}" valgrind)

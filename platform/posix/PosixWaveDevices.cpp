@@ -1,6 +1,6 @@
 #include "platform/posix/PosixWaveDevices.h"
 
-#include <alsa/asoundlib.h>
+#include <alsa/asoundlib.h>  // IWYU pragma: keep
 
 #include <string>
 

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <map>
 
-#include "platform/ErrorNumbers.h"
 #include "platform/posix/Replacement.h"
 #include "platform/posix/StationPath.h"
 
