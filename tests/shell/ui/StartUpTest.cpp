@@ -28,7 +28,9 @@ class StartUpTest : public MainTest {
       for (QWidget* window : QApplication::topLevelWidgets()) {
         auto* splash = qobject_cast<frmSplash*>(window);
         if (splash == nullptr || !splash->isVisible()) continue;
-        said.push_back(Control<QLabel>(splash, "lblCurrentAction")->text());
+        // It also yields when it is activated, with the text that it has then.
+        const QString text = Control<QLabel>(splash, "lblCurrentAction")->text();
+        if (!text.isEmpty() && !said.contains(text)) said.push_back(text);
         EXPECT_TRUE(Control<QWidget>(splash, "cmdOK")->isHidden());
       }
       if (test_.main->isVisible()) mainSeen = true;
@@ -47,8 +49,6 @@ class StartUpTest : public MainTest {
 TEST_F(StartUpTest, TheSplashSaysWhatIsDoneAndTheMainWindowStaysHiddenUntilTheStoreIsOpen) {
   Watcher watcher(*this, ui);
   ASSERT_TRUE(Start());
-  // The first look is at its activation, when nothing has been said yet.
-  watcher.said.removeAll(QString());
   EXPECT_EQ(watcher.said, QStringList({"Getting Velmar KLT Settings...",
                                        "Getting Audio Settings...", "Opening Audiowall..."}));
   EXPECT_FALSE(watcher.mainSeen);
