@@ -74,6 +74,7 @@ frmMain::frmMain() : area_(new QMdiArea) {
 // The child windows go while there still is a frame to be told of it, and none is told any more.
 frmMain::~frmMain() {
   area_->disconnect(this);
+  UnloadSplash();
   delete checkBreaks_;
   gSplits.SetFactory({});
   gSplits.UnloadAll();
