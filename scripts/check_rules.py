@@ -19,8 +19,8 @@ def tests_that_are_there():
     found = set()
     for source in TESTS.rglob("*.cpp"):
         found |= {f"{suite}.{name}" for suite, name in MACRO.findall(source.read_text())}
-    found |= {f"desktop.{path.name.removesuffix('_test.py')}"
-              for path in TESTS.glob("desktop/*_test.py")}
+    found |= {f"{path.parent.name}.{path.name.removesuffix('_test.py')}"
+              for path in TESTS.glob("*/*_test.py")}
     return found
 
 
