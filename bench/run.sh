@@ -6,9 +6,10 @@ cd "$(dirname "$0")/.."
 . scripts/tools.sh
 
 need "${benchmark_packages[@]}"
-build bench logcheck logchecker_bench desktop_bench report_bench browser_bench
+build bench logcheck logchecker_bench soak_bench desktop_bench report_bench browser_bench
 python3 bench/day.py
 python3 bench/store.py
 python3 bench/desktop.py
 python3 bench/browser.py
 build/bench/bin/logchecker_bench --benchmark_min_time=0.3
+build/bench/bin/soak_bench

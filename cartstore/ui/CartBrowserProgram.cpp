@@ -2,8 +2,6 @@
 
 #include <QApplication>
 #include <algorithm>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,6 +17,7 @@
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/StopProgram.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
 
@@ -29,7 +28,6 @@ namespace {
 constexpr int kChosen = 0;
 constexpr int kNothingChosen = 1;
 constexpr int kTrouble = 2;
-constexpr int kStopped = 3;
 
 constexpr std::string_view kHelp =
     "Usage: cartbrowser [--settings FOLDER] [NUMBER]\n"
@@ -113,18 +111,11 @@ int Browse(const std::string& number, const ShowNotesWindow& showNotes) {
   return WriteStandardOutput(std::to_string(choice.cart) + "\n") ? kChosen : kTrouble;
 }
 
-// Leaves at once: handlers of events are still on the stack, and none of them may go on.
 [[noreturn]] void Stop(const RunTimeError& error, const CartBrowserParts& parts) {
-  static bool stopping = false;
-  if (!stopping) {
-    stopping = true;
-    Ui().SetMousePointer(MousePointer::kDefault);
-    Ui().Show({error.what(), MessageIcon::kCritical, MessageButtons::kOk, kProgramTitle});
-  }
-  CloseAudiowall();
-  parts.CloseFiles();
-  std::fflush(nullptr);
-  std::_Exit(kStopped);
+  StopProgram(error, [&parts] {
+    CloseAudiowall();
+    parts.CloseFiles();
+  });
 }
 
 int Run(const Arguments& arguments, const CartBrowserParts& parts) {

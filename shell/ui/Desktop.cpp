@@ -1,8 +1,6 @@
 #include "shell/ui/Desktop.h"
 
 #include <QApplication>
-#include <cstdio>
-#include <cstdlib>
 #include <string>
 
 #include "cartstore/Velmar_Cart_Routines.h"
@@ -11,6 +9,7 @@
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/StopProgram.h"
 #include "platform/StationText.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
@@ -21,7 +20,6 @@ namespace logchecker {
 namespace {
 
 constexpr int kEndedAtStart = 1;
-constexpr int kStopped = 3;
 
 // Before the toolkit takes its own out of them.
 std::string JoinedArguments(int argc, char** argv) {
@@ -34,18 +32,11 @@ std::string JoinedArguments(int argc, char** argv) {
   return line;
 }
 
-// Leaves at once: handlers of events are still on the stack, and none of them may go on.
 void Stop(const RunTimeError& error) {
-  static bool stopping = false;
-  if (!stopping) {
-    stopping = true;
-    Ui().SetMousePointer(MousePointer::kDefault);
-    Ui().Show({error.what(), MessageIcon::kCritical, MessageButtons::kOk, kProgramTitle});
-  }
-  CloseAudiowall();
-  CloseAllFiles();
-  std::fflush(nullptr);
-  std::_Exit(kStopped);
+  StopProgram(error, [] {
+    CloseAudiowall();
+    CloseAllFiles();
+  });
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "cartstore/AudiowallParts.h"
 #include "cartstore/CartBrowser.h"
 #include "common/ErrorState.h"
+#include "tests/cartstore/Recorders.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -46,17 +47,6 @@ class RecordingBrowserFace : public CartBrowserFace {
   std::vector<int16_t> coloured;
   std::vector<std::pair<int32_t, bool>> finds;
   std::vector<std::pair<std::string, bool>> notes;
-};
-
-class RecordingOpener : public CartDisplay {
- public:
-  void UpdateDisplay(int32_t cartNumber) override {
-    told.push_back(cartNumber);
-    if (fails) throw RunTimeError(kInvalidCall, "");
-  }
-
-  std::vector<int32_t> told;
-  bool fails = false;
 };
 
 // A store of 100 carts and a browser on show with ten rows.

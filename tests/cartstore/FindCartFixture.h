@@ -11,6 +11,7 @@
 
 #include "cartstore/FindCart.h"
 #include "common/ErrorState.h"
+#include "tests/cartstore/Recorders.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -45,17 +46,6 @@ class RecordingFindFace : public FindCartFace {
   int resultsShown = 0;
   std::vector<size_t> rowsAdded;
   std::vector<FindControl> focus;
-};
-
-class RecordingBrowser : public CartJumper {
- public:
-  void JumpToCart(int32_t cartNumber) override {
-    jumps.push_back(cartNumber);
-    if (fails) throw RunTimeError(kInvalidCall, "");
-  }
-
-  std::vector<int32_t> jumps;
-  bool fails = false;
 };
 
 // Runs events in the middle of a walk.

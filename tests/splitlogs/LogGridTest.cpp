@@ -5,6 +5,7 @@
 #include <string>
 
 #include "common/ErrorState.h"
+#include "tests/splitlogs/CountingObserver.h"
 
 namespace logchecker {
 namespace {
@@ -125,14 +126,6 @@ TEST(LogGrid, ARowsTimeIsThatOfItsHoursAndMinutes) {
     EXPECT_EQ(row.seconds, grid.RowTime(1)) << row.text;
   }
 }
-
-class CountingObserver : public LogGridObserver {
- public:
-  void GridChanged() override { ++changes; }
-  void SelectionChanged() override { ++selections; }
-  int changes = 0;
-  int selections = 0;
-};
 
 TEST(LogGrid, WhilePaintingIsHeldBackNobodyIsToldAndThenOnce) {
   LogGrid grid;

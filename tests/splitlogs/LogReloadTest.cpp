@@ -5,6 +5,7 @@
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/CountingObserver.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -98,14 +99,6 @@ TEST_F(LogReloadTest, AnUnloadedSplitShowsItsOpenLogAgain) {
   EXPECT_EQ(1, gSplits(1).gridLog.Rows());
   EXPECT_EQ(4, Load(kDay + 1).Rows());
 }
-
-class CountingObserver : public LogGridObserver {
- public:
-  void GridChanged() override { ++changes; }
-  void SelectionChanged() override { ++selections; }
-  int changes = 0;
-  int selections = 0;
-};
 
 TEST_F(LogReloadTest, WhoShowsTheGridIsToldOfTheEmptyGridAndOfTheFullOne) {
   WriteLog(1, kDay, std::string(kFirst) + kSecond);

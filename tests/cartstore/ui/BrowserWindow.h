@@ -13,20 +13,10 @@
 #include "cartstore/BlankCart.h"
 #include "cartstore/ui/CartRowWidgets.h"
 #include "cartstore/ui/frmCartBrowser.h"
+#include "tests/cartstore/Recorders.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
-
-class CartOpener : public CartDisplay {
- public:
-  void UpdateDisplay(int32_t cartNumber) override {
-    told.push_back(cartNumber);
-    if (fails) throw RunTimeError(kInvalidCall, "");
-  }
-
-  std::vector<int32_t> told;
-  bool fails = false;
-};
 
 // A record with three lines of text, in colours of its own.
 inline CartRecord RecordOfLines(const std::string& line1, const std::string& line2,
@@ -110,7 +100,7 @@ class BrowserWindowTest : public WindowTest {
     EXPECT_EQ(window->ParentForm, nullptr);
   }
 
-  CartOpener opener;
+  RecordingOpener opener;
   std::vector<std::pair<std::string, bool>> notes;
   std::unique_ptr<frmCartBrowser> window;
 };

@@ -19,17 +19,6 @@
 namespace logchecker {
 namespace {
 
-class JumpRecorder : public CartJumper {
- public:
-  void JumpToCart(int32_t cartNumber) override {
-    jumps.push_back(cartNumber);
-    if (fails) throw RunTimeError(kInvalidCall, "");
-  }
-
-  std::vector<int32_t> jumps;
-  bool fails = false;
-};
-
 // Lets events run, and something more at each cart.
 class WalkUi : public QtUserInterface {
  public:
@@ -96,7 +85,7 @@ class FindCartFormTest : public WindowTest {
     return List()->visualRect(List()->model()->index(row, kFoundLine1)).center();
   }
 
-  JumpRecorder browser;
+  RecordingBrowser browser;
   WalkUi walk;
   std::unique_ptr<frmFindCart> window;
 };
