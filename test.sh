@@ -2,7 +2,7 @@
 # Builds and runs all tests. With an option, one of the other checks:
 #   --windows    the plain tests, cross-built for Windows and run under Wine
 #   --sanitize   the tests with the address and undefined-behaviour sanitizers
-#   --lint       format, clang-tidy, and which room includes which
+#   --lint       format, clang-tidy, includes, the order of the rooms, and the table of rules
 set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/tools.sh
