@@ -7,15 +7,17 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
+# Beside the libraries: the folders of the icons.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "hicolor-icon-theme")
-# Icons and other pictures of the windows are drawn by Qt's plug-ins.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libqt6svg6, qt6-qpa-plugins, cups-client")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "cups-client")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-  "A station that sends one programme out in several splits must start each advert break in the same
-minute and make it last the same length in all of them. Log Checker reads a day's advert log of each
-split, works out every break's length from the station's cart store, and lists every break time that
-does not match. The package holds the desktop (logchecker), the same check without a window (logcheck),
-the cart browser (cartbrowser), and a made-up station to try them on.")
+  "A station that sends one programme out in several splits must start
+each advert break in the same minute and make it last the same length in
+all of them. Log Checker reads a day's advert log of each split, works out
+every break's length from the station's cart store, and lists every break
+time that does not match. The package holds the desktop (logchecker), the
+same check without a window (logcheck), the cart browser (cartbrowser), and
+a made-up station to try them on.")
 
 # The programs lie in a folder of their own, since what belongs to them lies beside them.
 set(programs "${CMAKE_INSTALL_LIBDIR}/logchecker")
@@ -56,7 +58,9 @@ foreach(page logcheck logchecker cartbrowser)
   install_compressed("${PROJECT_SOURCE_DIR}/docs/man/${page}.1" ${page}.1
     "${CMAKE_INSTALL_MANDIR}/man1")
 endforeach()
-install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md" changelog "${CMAKE_INSTALL_DOCDIR}")
+configure_file(changelog.in changelog @ONLY)
+install_compressed("${CMAKE_CURRENT_BINARY_DIR}/changelog" changelog "${CMAKE_INSTALL_DOCDIR}")
+install_compressed("${PROJECT_SOURCE_DIR}/CHANGELOG.md" CHANGELOG.md "${CMAKE_INSTALL_DOCDIR}")
 install(FILES copyright "${PROJECT_SOURCE_DIR}/LICENSE" "${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}")
 

@@ -21,6 +21,7 @@ INSTALLED = [
     *[f"usr/share/icons/hicolor/{n}x{n}/apps/{ID}.png" for n in (16, 24, 32, 48, 64, 128, 256)],
     "usr/share/doc/logchecker/copyright",
     "usr/share/doc/logchecker/changelog.gz",
+    "usr/share/doc/logchecker/CHANGELOG.md.gz",
     "usr/share/doc/logchecker/LICENSE",
     "usr/share/doc/logchecker/THIRD-PARTY-NOTICES.md",
     "usr/share/logchecker/sample/velmar/VELKLT.INI",
