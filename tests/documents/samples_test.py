@@ -4,7 +4,9 @@ Takes the folder of the programs.
 
 A sample is a fenced block: "console" with commands behind "$ " and what they print ("..." stands for any
 lines), "ini" for a unit of the system's scheduler, "bat" for a command of the Windows scheduler. Each
-document has a folder of its own, with nothing in it, in which its samples run in their order."""
+document has a folder of its own, with nothing in it, in which its samples run in their order. The examples
+of the manual pages run on a station with mistakes, with a stand-in for the mail system and for the person who
+picks a cart."""
 
 import configparser
 import difflib
@@ -18,6 +20,7 @@ import tempfile
 
 HERE = pathlib.Path(__file__).resolve().parent.parent.parent
 PROGRAMS = pathlib.Path(sys.argv[1]).resolve()
+EXAMPLE = re.compile(r"^\.nf\n(.*?)^\.fi$", re.MULTILINE | re.DOTALL)
 FENCE = re.compile(r"^```(\w*)\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\(([^)#]+)(?:#[^)]*)?\)")
 
@@ -119,6 +122,31 @@ class Document:
         self.command_works(line, [str(PROGRAMS / "logcheck"), *words[1:]])
 
 
+def stand_in(folder, name, script):
+    path = folder / name
+    path.write_text(f"#!/bin/sh\n{script}\n")
+    path.chmod(0o755)
+
+
+class ManualPage(Document):
+    def check(self):
+        programs = self.folder / "stand-ins"
+        programs.mkdir()
+        stand_in(programs, "mail", f'echo "$@" >"{self.folder}/mailed"; cat >>"{self.folder}/mailed"')
+        stand_in(programs, "cartbrowser", "echo 1161")
+        self.environment["PATH"] = f"{programs}:{self.environment['PATH']}"
+        self.sample_tomorrow()
+        for match in EXAMPLE.finditer(self.text):
+            self.samples += 1
+            line = self.text.count("\n", 0, match.start()) + 1
+            command = match.group(1).replace("\\-", "-").strip()
+            printed = self.shell(command)
+            mailed = self.folder / "mailed"
+            told = printed + (mailed.read_text() if mailed.exists() else "")
+            if self.status != 0 or not re.search(r"5 ad breaks|1161\t0\tRedfern", told):
+                self.problem(line, f"{command}\nends with {self.status} and prints:\n{told}")
+
+
 def main():
     problems = []
     samples = 0
@@ -129,6 +157,12 @@ def main():
             document.check()
             problems += document.problems
             samples += document.samples
+    for path in sorted(HERE.glob("docs/man/*.1")):
+        with tempfile.TemporaryDirectory(prefix="logchecker-documents-") as folder:
+            page = ManualPage(path, pathlib.Path(folder))
+            page.check()
+            problems += page.problems
+            samples += page.samples
     for problem in problems:
         print(problem)
     print(f"{samples} samples run")
