@@ -4,6 +4,7 @@
 #include <sys/file.h>
 #include <unistd.h>
 
+#include <atomic>
 #include <cerrno>
 #include <ctime>
 
@@ -11,21 +12,35 @@ namespace logchecker {
 
 namespace {
 
-constexpr int kAttempts = 1000;
-constexpr timespec kPause = {0, 1000000};  // a millisecond
+using Clock = std::chrono::steady_clock;
+
+// Short beside any disk's write: a program that writes key after key lets go of the folder only for
+// moments, and one that looks seldom would miss them all.
+constexpr timespec kPause = {0, 50000};  // in nanoseconds
+
+std::atomic<bool> last_wait_was_in_vain(false);
+
+bool LockWithin(int folder, std::chrono::milliseconds patience) {
+  const Clock::time_point end = Clock::now() + patience;
+  while (flock(folder, LOCK_EX | LOCK_NB) != 0) {
+    const bool taken = errno == EWOULDBLOCK || errno == EINTR;
+    if (!taken || Clock::now() >= end) return false;
+    nanosleep(&kPause, nullptr);
+  }
+  return true;
+}
 
 }  // namespace
 
-FolderLock::FolderLock(const std::string& hostPath) {
+FolderLock::FolderLock(const std::string& hostPath, std::chrono::milliseconds patience) {
   const size_t separator = hostPath.find_last_of('/');
   const std::string folder =
       separator == std::string::npos ? "." : hostPath.substr(0, separator + 1);
   folder_ = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (folder_ < 0) return;
-  for (int i = 0; i < kAttempts && flock(folder_, LOCK_EX | LOCK_NB) != 0; ++i) {
-    if (errno != EWOULDBLOCK && errno != EINTR) return;
-    nanosleep(&kPause, nullptr);
-  }
+  if (last_wait_was_in_vain) patience = std::chrono::milliseconds(0);
+  held_ = LockWithin(folder_, patience);
+  last_wait_was_in_vain = !held_;
 }
 
 FolderLock::~FolderLock() {

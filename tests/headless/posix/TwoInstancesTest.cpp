@@ -86,7 +86,7 @@ TEST_F(TwoInstances, SettingsThatBothWriteKeepEveryKey) {
   const TempFolder& windows = folder_.folder();
   const std::string head = "; ours\r\n[General]\r\n";
   windows.WriteFile("VELKLT.INI", head);
-  constexpr int kWrites = 200;
+  constexpr int kWrites = 100;
   std::array<pid_t, 2> writers{};
   for (size_t n = 0; n < writers.size(); ++n) {
     writers[n] = fork();
