@@ -198,9 +198,9 @@ TEST_F(LoadLogFileTest, APartOfALogThatCannotBeReadStopsTheProgram) {
 }
 
 // `adverts` rows of one break, then what comes.
-std::string BreakOf(int adverts) {
+std::string BreakOf(int adverts, int32_t cart = 9) {
   std::string log;
-  for (int i = 0; i < adverts; ++i) log += Line("06:00", 9);
+  for (int i = 0; i < adverts; ++i) log += Line("06:00", cart);
   return log;
 }
 
@@ -227,14 +227,15 @@ TEST_F(LoadLogFileTest, TheGridGrowsWhenARowJumpsOverTheRowCount) {
 
 TEST_F(LoadLogFileTest, ALogOfMoreThanAMillionRowsStopsTheProgram) {
   // Breaks of eight adverts take ten rows and never meet the end of the grid. The script would
-  // record each of some million calls.
+  // record each of some million calls. A cart that the store is too small for is never read.
   Platform& scripted = UsePlatform(RealPlatform());
+  const int32_t cart = gNumberOfCarts + 1;
   std::string log;
-  for (int i = 0; i < 99999; ++i) log += BreakOf(8) + "\n";
-  EXPECT_EQ(0, LoadStops(log + BreakOf(9)));
+  for (int i = 0; i < 99999; ++i) log += BreakOf(8, cart) + "\n";
+  EXPECT_EQ(0, LoadStops(log + BreakOf(9, cart)));
   EXPECT_EQ(kMostRows, gSplits(1).gridLog.Rows());
   std::string text;
-  EXPECT_EQ(kInvalidGridRow, LoadStops(log + BreakOf(8) + "\n" + BreakOf(1), &text));
+  EXPECT_EQ(kInvalidGridRow, LoadStops(log + BreakOf(8, cart) + "\n" + BreakOf(1, cart), &text));
   EXPECT_NE(std::string::npos, text.find("more than 1000000 rows"));
   UsePlatform(scripted);
 }
