@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <optional>
-#include <utility>
 
 #include "cartstore/AudiowallParts.h"
 #include "cartstore/CartNotes.h"
@@ -165,9 +164,9 @@ void CartBrowser::ReturnCartNumber(int32_t cartNumber) {
   Tag = std::to_string(cartNumber);
   face_.Hide();
   activated_ = false;
-  CartDisplay* const parent = std::exchange(ParentForm, nullptr);
-  if (parent == nullptr) return;
-  CallIgnoringErrors([parent, cartNumber] { parent->UpdateDisplay(cartNumber); });
+  if (ParentForm == nullptr) return;
+  CallIgnoringErrors([this, cartNumber] { ParentForm->UpdateDisplay(cartNumber); });
+  ParentForm = nullptr;
 }
 
 void CartBrowser::Cancel() {

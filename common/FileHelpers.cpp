@@ -59,9 +59,6 @@ std::string ReadTextLine(int16_t fileNumber) {
   return line;
 }
 
-std::string GetWindowsFolder() {
-  constexpr size_t kBufferLength = 145;
-  return Os().system.WindowsFolder().substr(0, kBufferLength - 1);
-}
+std::string GetWindowsFolder() { return Os().system.WindowsFolder(); }
 
 }  // namespace logchecker

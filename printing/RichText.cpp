@@ -14,7 +14,9 @@ RichTextDocument PlainLines(std::string_view bytes) {
   RichTextDocument document;
   size_t begin = 0;
   size_t characters = 0;
-  while (begin < bytes.size() && characters < kMostCharacters) {
+  // What stands behind the last line's end is a line too, if an empty one.
+  bool more = !bytes.empty();
+  while (more && characters < kMostCharacters) {
     size_t end = bytes.find_first_of("\r\n", begin);
     if (end == std::string_view::npos) end = bytes.size();
     characters += end - begin + kCostOfParagraph;
@@ -26,6 +28,7 @@ RichTextDocument PlainLines(std::string_view bytes) {
     }
     document.paragraphs.push_back(paragraph);
     const bool pair = end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n';
+    more = end < bytes.size();
     begin = end + (pair ? 2 : 1);
   }
   return document;

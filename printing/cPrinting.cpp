@@ -1,6 +1,7 @@
 #include "printing/cPrinting.h"
 
 #include <algorithm>
+#include <limits>
 
 #include "common/ErrorState.h"
 #include "common/FitTextToWidth.h"
@@ -93,10 +94,16 @@ void cPrinting::MeasureColumns() {
     int32_t& width = Entry(columnWidth_, column);
     width = list_->ColumnHeaders[static_cast<size_t>(column - 1)].width;
     if (hooks.CheckColWidth) hooks.CheckColWidth(*list_, column, width);
-    if (width > 0) totalWidth_ += width + ColumnSpacing;
+    if (width > 0) AddToTotalWidth(width);
   }
   if (totalWidth_ == 0) Fail(kDivisionByZero);
   scaleFactor_ = static_cast<float>(static_cast<double>(rightEdge_ - textLeft_) / totalWidth_);
+}
+
+void cPrinting::AddToTotalWidth(int32_t width) {
+  const int64_t total = int64_t{totalWidth_} + width + ColumnSpacing;
+  if (total > std::numeric_limits<int32_t>::max()) Fail(kOverflow);
+  totalWidth_ = static_cast<int32_t>(total);
 }
 
 void cPrinting::PrintHeadings() {
@@ -127,7 +134,7 @@ void cPrinting::PrintRows(int16_t SelectedOnly) {
   for (int32_t row = 1; row <= Rows(); ++row) {
     if (!WantsRow(row, SelectedOnly, linesPrinted)) continue;
     // All rows of the list count, also when only some print.
-    TellProgress(ToInt16(linesPrinted * 100.0 / Rows()), linesPrinted);
+    TellProgress(ToInt16(static_cast<double>(linesPrinted) / Rows() * 100), linesPrinted);
     PrintRow(row, linesPrinted);
     // After the last row too, so a page with headings alone can end the report.
     if (canvas_.PageHeight() < canvas_.CurrentY() + kFootReserve) NewPage();

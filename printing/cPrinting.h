@@ -58,6 +58,7 @@ class cPrinting {
   void Run(const std::string& Caption, int16_t SelectedOnly);
   void PrintTitle(const std::string& Caption);
   void MeasureColumns();
+  void AddToTotalWidth(int32_t width);
   void PrintHeadings();
   void PrintRows(int16_t SelectedOnly);
   void PrintRow(int32_t row, int32_t linesPrinted);

@@ -8,7 +8,8 @@ mapfile -t units < <(git ls-files '*.cpp' |
   grep -Ev '/ui/|^platform/windows/')
 found=$(mktemp)
 trap 'rm -f "$found"' EXIT
-iwyu_tool -j "$(nproc)" -p build/debug "${units[@]}" -- -Xiwyu --no_fwd_decls -Xiwyu --cxx17ns 2>/dev/null |
+iwyu_tool -j "$(nproc)" -p build/debug "${units[@]}" -- \
+  -Xiwyu --no_fwd_decls -Xiwyu --cxx17ns -Xiwyu --mapping_file="$PWD/scripts/includes.imp" 2>/dev/null |
   awk '/^\(/ { next } /should remove these lines/ { file = $1 } /^- #include/ { print file ": " $0 }' |
   sed "s,$PWD/,," | sort -u >"$found"
 if [ -s "$found" ]; then

@@ -107,12 +107,7 @@ void frmCartBrowser::ConnectControls() {
   connect(cmdFindCart_, &QPushButton::clicked, this,
           [this] { Guarded([this] { FindClicked(); }); });
   connect(cmdCancel_, &QPushButton::clicked, this, [this] { Guarded([this] { Cancel(); }); });
-  connect(chkDouble_, &QCheckBox::toggled, this, [this](bool ticked) {
-    Guarded([this, ticked] {
-      SetDouble(ticked);
-      LayOut();
-    });
-  });
+  connect(chkDouble_, &QCheckBox::toggled, this, [this] { DoubleChanged(); });
   for (const ScrollDirection direction : {ScrollDirection::kUp, ScrollDirection::kDown}) {
     const auto index = static_cast<size_t>(direction);
     connect(cmdSmallScroll_[index], &QToolButton::clicked, this,
@@ -120,6 +115,13 @@ void frmCartBrowser::ConnectControls() {
     connect(cmdBigScroll_[index], &QToolButton::clicked, this,
             [this, direction] { Guarded([&] { BigScroll(direction); }); });
   }
+}
+
+void frmCartBrowser::DoubleChanged() {
+  Guarded([this] {
+    SetDouble(chkDouble_->isChecked());
+    LayOut();
+  });
 }
 
 void frmCartBrowser::SetTabOrder() {

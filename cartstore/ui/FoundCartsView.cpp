@@ -55,13 +55,6 @@ void FoundCartsView::SetColumnWidths(int listWidth) {
   }
 }
 
-void FoundCartsView::resizeEvent(QResizeEvent* event) {
-  QTreeView::resizeEvent(event);
-  if (model_ != nullptr && event->size().width() != event->oldSize().width()) {
-    SetColumnWidths(ToTwips(width()));
-  }
-}
-
 void FoundCartsView::ShowResults() {
   added_.stop();
   // What the user has just selected is shown as it is.
@@ -125,7 +118,9 @@ void FoundCartsView::selectionChanged(const QItemSelection& selected,
   });
 }
 
+// A row is taken by its place, so what the user does with one waits for no rows.
 void FoundCartsView::mousePressEvent(QMouseEvent* event) {
+  ShowAddedRows();
   QTreeView::mousePressEvent(event);
   search_->MouseDown(event->button() == Qt::LeftButton, XInTwips(*event), YInTwips(*event));
 }
@@ -134,7 +129,8 @@ void FoundCartsView::mouseMoveEvent(QMouseEvent* event) {
   const bool held = event->buttons().testFlag(Qt::LeftButton);
   const auto tag = search_->MouseMove(held, XInTwips(*event), YInTwips(*event));
   if (!tag) {
-    QTreeView::mouseMoveEvent(event);
+    // The row that is held stays the selected one, wherever the pointer goes from there.
+    if (!held) QTreeView::mouseMoveEvent(event);
     return;
   }
   Tag = *tag;
@@ -158,11 +154,13 @@ void FoundCartsView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void FoundCartsView::mouseDoubleClickEvent(QMouseEvent* event) {
+  ShowAddedRows();
   QTreeView::mouseDoubleClickEvent(event);
   if (event->button() == Qt::LeftButton) Guarded([this] { search_->Choose(); });
 }
 
 void FoundCartsView::keyPressEvent(QKeyEvent* event) {
+  ShowAddedRows();
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     Guarded([this] { search_->Choose(); });
     return;

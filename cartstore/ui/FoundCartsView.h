@@ -27,7 +27,7 @@ class FoundCartsView : public QTreeView {
   void RowAdded();
   void ShowAddedRows();
 
-  // Gives the columns their widths for a list of this width in twips.
+  // Gives the columns their widths for a list of this width in twips; they are the user's from then on.
   void SetColumnWidths(int listWidth);
 
   // The number of the cart that was last dragged.
@@ -41,7 +41,6 @@ class FoundCartsView : public QTreeView {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  void resizeEvent(QResizeEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:

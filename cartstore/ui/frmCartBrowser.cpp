@@ -30,7 +30,19 @@ constexpr int kScreenMargin = 30;  // twips
 
 QRect Screen() { return QGuiApplication::primaryScreen()->geometry(); }
 
-bool IsPrintable(char character) { return static_cast<unsigned char>(character) >= ' '; }
+// Not so the keys that edit or that move the focus, whatever character the system gives them.
+bool TypesACharacter(const QKeyEvent& key) {
+  switch (key.key()) {
+    case Qt::Key_Delete:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return false;
+    default:
+      return !key.text().isEmpty();
+  }
+}
 
 }  // namespace
 
@@ -103,10 +115,9 @@ void frmCartBrowser::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
   if (event->spontaneous()) return;
   justShown_ = true;
-  Guarded([this] {
-    LayOut();
-    Activate();
-  });
+  // The size has its rows already, from the first showing or the last change.
+  if (pnlDescription_->isHidden() == ShowDescription) Guarded([this] { LayOut(); });
+  Guarded([this] { Activate(); });
 }
 
 void frmCartBrowser::hideEvent(QHideEvent* event) {
@@ -129,6 +140,10 @@ void frmCartBrowser::reject() {
 }
 
 bool frmCartBrowser::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == chkDouble_ && event->type() == QEvent::KeyPress &&
+      TypesACharacter(static_cast<const QKeyEvent&>(*event))) {
+    DoubleChanged();
+  }
   if (watched == chkDouble_ && event->type() == QEvent::MouseButtonRelease) {
     // Behind the box's own handling of the release.
     QMetaObject::invokeMethod(
@@ -140,9 +155,8 @@ bool frmCartBrowser::eventFilter(QObject* watched, QEvent* event) {
 bool frmCartBrowser::OnKey(const QKeyEvent& key) {
   if (KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier))) return true;
   const char character = CharacterOf(key);
-  if (character == 0) return false;
-  if (KeyPress(character)) return true;
-  return focusWidget() == txtCartNumber_ && IsPrintable(character) && !JumpBoxTakes(character);
+  if (character != 0 && KeyPress(character)) return true;
+  return focusWidget() == txtCartNumber_ && TypesACharacter(key) && !JumpBoxTakes(character);
 }
 
 bool frmCartBrowser::IsActive() { return isVisible() && isActiveWindow(); }

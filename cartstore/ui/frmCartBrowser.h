@@ -71,6 +71,7 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
   void MakeControls();
   QToolButton* MakeScrollButton(const QString& name, const char* icon, const QString& spoken);
   void ConnectControls();
+  void DoubleChanged();
   void SetTabOrder();
   void SetSizes();
   // All in twips.

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QLineEdit>
-#include <QTimer>
+#include <algorithm>
 
 #include "cartstore/ui/KeyPreview.h"
 #include "common/SystemHelpers.h"
@@ -37,7 +37,8 @@ frmFindCart::frmFindCart(QWidget* parent)
   Load();
   OpenAnimation();
   const QMargins margins = layout()->contentsMargins();
-  ui_->lviewItems->SetColumnWidths(ToTwips(width() - margins.left() - margins.right()));
+  const int width = std::max(this->width(), layout()->minimumSize().width());
+  ui_->lviewItems->SetColumnWidths(ToTwips(width - margins.left() - margins.right()));
   frmFindCart::ShowControls();
 }
 
@@ -54,7 +55,7 @@ void frmFindCart::FillLists() {
     ui_->comboLength->addItem(tolerance.text, tolerance.seconds);
   }
   ui_->cmbSearchText->setCompleter(nullptr);
-  ui_->cmbSearchText->installEventFilter(this);
+  SelectAllOnFocus(*ui_->cmbSearchText);
   ui_->cmbSearchText->lineEdit()->setAccessibleName(ui_->cmbSearchText->accessibleName());
   TakeStationTextOnly(*ui_->cmbSearchText->lineEdit());
   ui_->lviewItems->SetSearch(*this);
@@ -118,14 +119,6 @@ bool frmFindCart::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) Guarded([this] { Activate(); });
   if (event->type() == QEvent::ApplicationPaletteChange) ColourBoxes();
   return QDialog::event(event);
-}
-
-bool frmFindCart::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == ui_->cmbSearchText && event->type() == QEvent::FocusIn) {
-    // After the press of the mouse that brought the focus, which would undo it.
-    QTimer::singleShot(0, this, [this] { ui_->cmbSearchText->lineEdit()->selectAll(); });
-  }
-  return QDialog::eventFilter(watched, event);
 }
 
 void frmFindCart::showEvent(QShowEvent* event) {

@@ -24,7 +24,6 @@ class frmFindCart : public QDialog, private FindCartFace, public FindCart {
 
  protected:
   bool event(QEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void reject() override;

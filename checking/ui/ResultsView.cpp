@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QScopedValueRollback>
 
 #include "common/Numbers.h"
 #include "common/ui/ReportList.h"
@@ -23,6 +24,9 @@ ResultsView::ResultsView(ListView& list, QWidget* parent)
   SetUpReportList(*this);
   setModel(model_);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
+  connect(header(), &QHeaderView::sectionResized, this, [this](int column, int /*old*/, int width) {
+    if (!sharing_) list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+  });
 }
 
 void ResultsView::Refresh() { model_->Refresh(); }
@@ -32,25 +36,29 @@ void ResultsView::TakeAddedRows() {
   viewport()->repaint();
 }
 
-std::string ResultsView::KeyOfCurrentRow() const {
-  const QModelIndex current = currentIndex();
-  const auto row = static_cast<size_t>(current.row());
-  if (!current.isValid() || row >= list_.ListItems.size()) return "";
-  return list_.ListItems[row].key;
+std::string ResultsView::KeyOfSelectedRow() const {
+  const QModelIndexList selected = selectionModel()->selectedRows();
+  if (selected.isEmpty()) return "";
+  // A view that gets the focus can have a current row that nobody selected.
+  const int current = currentIndex().row();
+  const bool isSelected = selectionModel()->isRowSelected(current, {});
+  const auto row = static_cast<size_t>(isSelected ? current : selected.constFirst().row());
+  return row < list_.ListItems.size() ? list_.ListItems[row].key : "";
 }
 
 void ResultsView::ShareColumns(bool keepFirst) {
   const int columns = model_->columnCount();
   if (columns < 1) return;
+  const QScopedValueRollback<bool> sharing(sharing_, true);
   if (!keepFirst) setColumnWidth(0, ToPixels(list_.ColumnHeaders.front().width));
   if (columns < 2) return;
-  const int left = ToTwips(width()) - kFrameWidth - kScrollBarWidth - ToTwips(columnWidth(0));
+  const int left =
+      ToTwips(width()) - kFrameWidth - kScrollBarWidth - list_.ColumnHeaders.front().width;
   const int32_t share = ToInt32(static_cast<double>(left) / (columns - 1));
   for (int column = 1; column < columns; ++column) {
     list_.ColumnHeaders[static_cast<size_t>(column)].width = share;
     setColumnWidth(column, std::max(share / kTwipsPerPixel, 1));
   }
-  list_.ColumnHeaders.front().width = ToTwips(columnWidth(0));
 }
 
 void ResultsView::mouseReleaseEvent(QMouseEvent* event) {

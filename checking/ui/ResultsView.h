@@ -19,11 +19,12 @@ class ResultsView : public QTreeView {
   void Refresh();
   void TakeAddedRows();
 
-  // The key of the row that was last gone to; empty before any.
-  std::string KeyOfCurrentRow() const;
+  // The key of the selected row, of several the one that was last gone to; empty without any.
+  std::string KeyOfSelectedRow() const;
 
   // Gives all columns but the first even shares of what that one leaves. The first one takes its
-  // width from the list unless it is to keep the one that the user gave it.
+  // width from the list unless it is to keep the one that it has. A width that the user gives a
+  // column goes into the list.
   void ShareColumns(bool keepFirst);
 
  signals:
@@ -38,6 +39,7 @@ class ResultsView : public QTreeView {
  private:
   ListView& list_;
   ListViewModel* model_;
+  bool sharing_ = false;  // the widths are the list's, not the user's
 };
 
 }  // namespace logchecker

@@ -163,7 +163,7 @@ void frmCheckBreaks::CheckBreaks() {
 void frmCheckBreaks::ShowProgress(int32_t value, int32_t maximum) {
   constexpr int kSteps = 100;
   const bool moved =
-      ProgressBar1_->maximum() != maximum ||
+      value == 0 || ProgressBar1_->maximum() != maximum ||
       int64_t{kSteps} * value / maximum != int64_t{kSteps} * ProgressBar1_->value() / maximum;
   if (!moved) return;
   ProgressBar1_->setRange(0, maximum);
@@ -182,7 +182,7 @@ void frmCheckBreaks::ShowOutcome() {
 }
 
 void frmCheckBreaks::OnRowChosen() {
-  const std::string key = lvwResults_->KeyOfCurrentRow();
+  const std::string key = lvwResults_->KeyOfSelectedRow();
   if (key.empty()) return;
   Guarded([&] { SelectBreakInActiveSplits(TimeOfResultKey(key)); });
 }
@@ -192,9 +192,10 @@ void frmCheckBreaks::OnRowChosen() {
 void frmCheckBreaks::OnSave() {
   if (check_.lvwResults.ListItems.empty()) return;
   const std::string folder =
-      lastFile_.empty() ? RememberedExportFolder() : GetPathPart(lastFile_, false);
+      lastFile_.empty() ? RememberedExportFolder() : GetPathPart(lastFile_, true);
   SaveDialog dialog(this, "Export Results to CSV File...",
-                    "Comma Separated Variable Files (*.CSV);;All Files (*.*)", "CSV", folder);
+                    {{"Comma Separated Variable Files (*.CSV)", "*.CSV"}, {"All Files (*.*)", "*"}},
+                    "CSV", folder);
   dialog.SetCreatePrompt(true);
   const std::optional<std::string> file =
       dialog.Ask(lastFile_.empty() ? "*.CSV" : ToQString(GetFileNamePart(lastFile_)));

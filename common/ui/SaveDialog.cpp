@@ -17,7 +17,7 @@ bool HasWildcard(const QString& name) { return name.contains('*') || name.contai
 
 }  // namespace
 
-SaveDialog::SaveDialog(QWidget* owner, const QString& title, const QString& filters,
+SaveDialog::SaveDialog(QWidget* owner, const QString& title, const std::vector<FileFilter>& filters,
                        const QString& defaultExtension, const std::string& folder)
     : QFileDialog(owner, title) {
   setObjectName("CommonDialog1");
@@ -27,7 +27,10 @@ SaveDialog::SaveDialog(QWidget* owner, const QString& title, const QString& filt
   setOption(QFileDialog::DontConfirmOverwrite);
   setAcceptMode(QFileDialog::AcceptSave);
   setFileMode(QFileDialog::AnyFile);
-  setNameFilters(filters.split(";;"));
+  setOption(QFileDialog::HideNameFilterDetails);
+  QStringList names;
+  for (const FileFilter& filter : filters) names << filter.text + " (" + filter.pattern + ")";
+  setNameFilters(names);
   setDefaultSuffix(defaultExtension);
   const QString start = HostFolder(folder);
   if (!start.isEmpty()) setDirectory(start);

@@ -4,16 +4,22 @@
 #include <QFileDialog>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace logchecker {
+
+struct FileFilter {
+  QString text;     // as the user reads it
+  QString pattern;  // of the names that it shows
+};
 
 // Asks before it replaces a file. A name with a wildcard filters the list and saves nothing.
 class SaveDialog : public QFileDialog {
   Q_OBJECT
 
  public:
-  // `filters` as "Text (*.EXT)", joined by ";;"; the first is preset. The folder is a station path.
-  SaveDialog(QWidget* owner, const QString& title, const QString& filters,
+  // The first of the filters is preset. The folder is a station path.
+  SaveDialog(QWidget* owner, const QString& title, const std::vector<FileFilter>& filters,
              const QString& defaultExtension, const std::string& folder);
 
   // Whether the dialog asks before a new file is made.

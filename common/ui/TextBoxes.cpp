@@ -1,9 +1,13 @@
 #include "common/ui/TextBoxes.h"
 
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QTimer>
 #include <QValidator>
+#include <algorithm>
 #include <functional>
 #include <utility>
 
@@ -20,10 +24,11 @@ class BoxFilter : public QObject {
  public:
   using Handler = std::function<bool(QLineEdit&, QEvent&)>;
 
-  BoxFilter(QLineEdit& box, Handler handler)
+  BoxFilter(QLineEdit& box, QWidget& watched, Handler handler)
       : QObject(&box), box_(box), handler_(std::move(handler)) {
-    box.installEventFilter(this);
+    watched.installEventFilter(this);
   }
+  BoxFilter(QLineEdit& box, Handler handler) : BoxFilter(box, box, std::move(handler)) {}
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -35,8 +40,12 @@ class BoxFilter : public QObject {
   Handler handler_;
 };
 
-// The printable text of a key press; empty for any other event.
+// The printable text of a key press, or what dead keys and input methods make of several; empty for
+// any other event.
 QString TypedText(const QEvent& event) {
+  if (event.type() == QEvent::InputMethod) {
+    return static_cast<const QInputMethodEvent&>(event).commitString();
+  }
   if (event.type() != QEvent::KeyPress) return {};
   const auto& key = static_cast<const QKeyEvent&>(event);
   // Control alone is a command, such as that to paste; with Alt it types a further character.
@@ -61,15 +70,31 @@ void SelectAllText(QLineEdit& textBox) {
   textBox.setSelection(0, static_cast<int>(textBox.text().length()));
 }
 
-void SelectAllOnFocus(QLineEdit& textBox) {
-  new BoxFilter(textBox, [](QLineEdit& box, QEvent& event) {
-    if (event.type() == QEvent::FocusIn) {
-      // After the press of the mouse that brought the focus, which would undo it.
-      QTimer::singleShot(0, &box, [&box] { SelectAllText(box); });
-    }
-    return false;
-  });
+namespace {
+
+bool SelectOnFocus(QLineEdit& box, QEvent& event) {
+  if (event.type() == QEvent::FocusIn) {
+    // After the press of the mouse that brought the focus, which would undo it.
+    QTimer::singleShot(0, &box, [&box] { SelectAllText(box); });
+  }
+  return false;
 }
+
+// What an input method shows of a text to come goes with the event that ends it.
+void EndInput(QLineEdit& box, const QString& text) {
+  QInputMethodEvent end;
+  end.setCommitString(text);
+  QCoreApplication::sendEvent(&box, &end);
+}
+
+bool IsDigit(QChar character) { return IsTextOfKind(FromQString(QString(character)), 1); }
+
+}  // namespace
+
+void SelectAllOnFocus(QLineEdit& textBox) { new BoxFilter(textBox, SelectOnFocus); }
+
+// The focus is the list's box's own, which hands its events on.
+void SelectAllOnFocus(QComboBox& box) { new BoxFilter(*box.lineEdit(), box, SelectOnFocus); }
 
 void TypeInUpperCase(QLineEdit& textBox) {
   new BoxFilter(textBox, [](QLineEdit& box, QEvent& event) {
@@ -78,15 +103,21 @@ void TypeInUpperCase(QLineEdit& textBox) {
     if (typed.isEmpty() || !FromQString(typed, &stationText)) return false;
     const QString upper = ToQString(ToUpper(stationText));
     if (upper == typed) return false;
-    box.insert(upper);
+    if (event.type() == QEvent::InputMethod) {
+      EndInput(box, upper);
+    } else {
+      box.insert(upper);
+    }
     return true;
   });
 }
 
 void TypeDigitsOnly(QLineEdit& textBox) {
-  new BoxFilter(textBox, [](QLineEdit& /*box*/, QEvent& event) {
+  new BoxFilter(textBox, [](QLineEdit& box, QEvent& event) {
     const QString typed = TypedText(event);
-    return !typed.isEmpty() && !IsTextOfKind(FromQString(typed), 1);
+    if (std::all_of(typed.begin(), typed.end(), IsDigit)) return false;
+    if (event.type() == QEvent::InputMethod) EndInput(box, {});
+    return true;
   });
 }
 

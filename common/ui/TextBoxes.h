@@ -1,6 +1,7 @@
 // What the dialogs' text boxes have in common.
 #pragma once
 
+class QComboBox;
 class QLineEdit;
 
 namespace logchecker {
@@ -10,6 +11,8 @@ void SelectAllText(QLineEdit& textBox);
 
 // From now on the box selects its whole text when it gets the focus.
 void SelectAllOnFocus(QLineEdit& textBox);
+// The same for a box with a list, which must be editable.
+void SelectAllOnFocus(QComboBox& box);
 
 // From now on each character typed into the box becomes an upper-case one.
 void TypeInUpperCase(QLineEdit& textBox);

@@ -1,6 +1,8 @@
 #include "common/ui/frmGoodInputBox.h"
 
 #include <QCloseEvent>
+#include <QMouseEvent>
+#include <limits>
 
 #include "common/Numbers.h"
 #include "common/ui/StationQString.h"
@@ -19,7 +21,7 @@ constexpr int kCaptionHeight = 600;
 constexpr int kListHeight = 2700;
 constexpr int kButtonWidth = 1275;
 
-constexpr int kNoLimit = 32767;  // characters, the text box's own
+constexpr int kNoLimit = std::numeric_limits<int>::max();  // characters
 
 QString SelectedPositions(const QListWidget& list) {
   QStringList positions;
@@ -37,10 +39,12 @@ frmGoodInputBox::frmGoodInputBox(QWidget* parent)
   ui_->setupUi(this);
   ui_->lblCaption->setBuddy(ui_->Text1);
   SelectAllOnFocus(*ui_->Text1);
-  SelectAllOnFocus(*ui_->comboCombo->lineEdit());
+  // What is typed is the answer, and not an item that begins with it.
+  ui_->comboCombo->setCompleter(nullptr);
+  SelectAllOnFocus(*ui_->comboCombo);
   connect(ui_->cmdOK, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] { OnCancel(); });
-  connect(ui_->listMultiNonSel, &QListWidget::itemDoubleClicked, this, [this] { OnOk(); });
+  ui_->listMultiNonSel->viewport()->installEventFilter(this);
   PlaceControls();
   Unload();
 }
@@ -74,11 +78,11 @@ void frmGoodInputBox::LayOutButtonsUnder(const QWidget& control) {
 }
 
 void frmGoodInputBox::SetCaption(const std::string& question) {
-  ui_->lblCaption->setText(ToQString(question));
+  ui_->lblCaption->setText(AsMenuText(ToQString(question)));
   for (QWidget* control : std::initializer_list<QWidget*>{
            ui_->comboCombo, ui_->comboCombo->lineEdit(), ui_->comboList, ui_->comboSortedList,
            ui_->listMulti, ui_->listMultiNonSel, ui_->Text1}) {
-    control->setAccessibleName(ui_->lblCaption->text());
+    control->setAccessibleName(ToQString(question));
   }
 }
 
@@ -147,9 +151,16 @@ void frmGoodInputBox::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
 }
 
+// A window that goes can be told on its way that it is active, and is not to act on that.
+void frmGoodInputBox::setVisible(bool visible) {
+  if (shown_ && !visible) Ui().SetMousePointer(SavedPointer);
+  shown_ = visible;
+  QDialog::setVisible(visible);
+}
+
 void frmGoodInputBox::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() != QEvent::ActivationChange || !isVisible()) return;
+  if (event->type() != QEvent::ActivationChange || !shown_) return;
   if (isActiveWindow()) {
     BecomeActive();
   } else {
@@ -169,6 +180,16 @@ std::string frmGoodInputBox::Answer() const {
   if (const QComboBox* combo = ComboOfMode()) return FromQString(combo->currentText());
   if (const QListWidget* list = ListOfMode()) return FromQString(SelectedPositions(*list));
   return FromQString(ui_->Text1->text());
+}
+
+// A double click anywhere in the list, on a row or below them.
+bool frmGoodInputBox::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == ui_->listMultiNonSel->viewport() && event->type() == QEvent::MouseButtonDblClick &&
+      static_cast<const QMouseEvent&>(*event).button() == Qt::LeftButton) {
+    OnOk();
+    return true;
+  }
+  return QDialog::eventFilter(watched, event);
 }
 
 void frmGoodInputBox::OnOk() {

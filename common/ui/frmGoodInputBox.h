@@ -55,11 +55,13 @@ class frmGoodInputBox : public QDialog {
   void Unload();
 
   void reject() override;
+  void setVisible(bool visible) override;
 
  protected:
   void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void BecomeActive();
@@ -74,6 +76,7 @@ class frmGoodInputBox : public QDialog {
   void OnCancel();
 
   std::unique_ptr<Ui::frmGoodInputBox> ui_;
+  bool shown_ = false;
 };
 
 }  // namespace logchecker

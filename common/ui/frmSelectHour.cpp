@@ -3,7 +3,6 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <algorithm>
-#include <cmath>
 #include <cstdlib>
 
 #include "common/Dates.h"
@@ -111,9 +110,15 @@ void frmSelectHour::showEvent(QShowEvent* event) {
   QDialog::showEvent(event);
 }
 
+// A window that goes can be told on its way that it is active; its next showing has to begin anew.
+void frmSelectHour::setVisible(bool visible) {
+  shown_ = visible;
+  QDialog::setVisible(visible);
+}
+
 void frmSelectHour::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) BecomeActive();
+  if (event->type() == QEvent::ActivationChange && shown_ && isActiveWindow()) BecomeActive();
 }
 
 // Once per showing: later activations leave the choice alone.
@@ -150,10 +155,10 @@ void frmSelectHour::TakeTag() {
 
 // An hour back, which just after midnight is yesterday's last.
 void frmSelectHour::TakePresentTime() {
-  constexpr double kHoursADay = 24;
-  const double now = Os().clock.Now();
-  day_ = Today();
-  hour_ = static_cast<int32_t>((now - std::floor(now)) * kHoursADay) - 1;
+  constexpr int32_t kSecondsAnHour = 3600;
+  const DayAndSeconds now = SplitDateTime(Os().clock.Now());
+  day_ = now.Days;
+  hour_ = std::min(static_cast<int32_t>(now.Seconds) / kSecondsAnHour, kLastHour) - 1;
 }
 
 void frmSelectHour::ShowDate(int32_t day) {
@@ -262,10 +267,11 @@ void frmSelectHour::Leave(const std::string& tag) {
 // Escape, as the button.
 void frmSelectHour::reject() { ui_->CancelB->click(); }
 
-// The user's closing is refused and counts as Cancel, so the window lives on.
+// The user's closing is refused and counts as Cancel, so the window lives on. Any other, such as
+// the program's end, passes.
 void frmSelectHour::closeEvent(QCloseEvent* event) {
-  event->ignore();
   ui_->CancelB->click();
+  event->setAccepted(!event->spontaneous());
 }
 
 bool frmSelectHour::eventFilter(QObject* watched, QEvent* event) {

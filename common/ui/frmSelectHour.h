@@ -35,6 +35,7 @@ class frmSelectHour : public QDialog {
   void SelectDay();
 
   void reject() override;
+  void setVisible(bool visible) override;
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -61,6 +62,7 @@ class frmSelectHour : public QDialog {
   void FilterHour(QEvent* event);
 
   std::unique_ptr<Ui::frmSelectHour> ui_;
+  bool shown_ = false;
   int32_t day_ = 0;   // while the window becomes active
   int32_t hour_ = 0;  // likewise
   int16_t SelectedDay = 1;

@@ -76,7 +76,8 @@ std::optional<size_t> AskForRow(QWidget* owner, const std::string& question,
   Question asked(owner, question, &frmGoodInputBox::UseListMultiNonSel);
   asked.box().SetItems(items);
   const std::optional<std::string> answer = asked.Ask();
-  if (!answer) return std::nullopt;
+  // OK without a row leaves its outcome behind when the box is closed next.
+  if (!answer || answer->empty()) return std::nullopt;
   return Positions(*answer).front();
 }
 

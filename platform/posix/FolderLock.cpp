@@ -6,6 +6,7 @@
 
 #include <atomic>
 #include <cerrno>
+#include <chrono>
 #include <ctime>
 
 namespace logchecker {
@@ -20,8 +21,8 @@ constexpr timespec kPause = {0, 50000};  // in nanoseconds
 
 std::atomic<bool> last_wait_was_in_vain(false);
 
-bool LockWithin(int folder, std::chrono::milliseconds patience) {
-  const Clock::time_point end = Clock::now() + patience;
+bool LockWithin(int folder, int patience) {
+  const Clock::time_point end = Clock::now() + std::chrono::milliseconds(patience);
   while (flock(folder, LOCK_EX | LOCK_NB) != 0) {
     const bool taken = errno == EWOULDBLOCK || errno == EINTR;
     if (!taken || Clock::now() >= end) return false;
@@ -32,13 +33,13 @@ bool LockWithin(int folder, std::chrono::milliseconds patience) {
 
 }  // namespace
 
-FolderLock::FolderLock(const std::string& hostPath, std::chrono::milliseconds patience) {
+FolderLock::FolderLock(const std::string& hostPath, int patience) {
   const size_t separator = hostPath.find_last_of('/');
   const std::string folder =
       separator == std::string::npos ? "." : hostPath.substr(0, separator + 1);
   folder_ = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (folder_ < 0) return;
-  if (last_wait_was_in_vain) patience = std::chrono::milliseconds(0);
+  if (last_wait_was_in_vain) patience = 0;
   held_ = LockWithin(folder_, patience);
   last_wait_was_in_vain = !held_;
 }

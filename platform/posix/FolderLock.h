@@ -1,7 +1,6 @@
 // One program at a time at the files of a folder.
 #pragma once
 
-#include <chrono>
 #include <string>
 
 namespace logchecker {
@@ -11,13 +10,13 @@ namespace logchecker {
 // locked for longer than a change of a file can take, the work goes on without it.
 class FolderLock {
  public:
-  // Far longer than any disk takes for a file of settings, so that only a program that stands still
-  // is passed over.
-  static constexpr std::chrono::milliseconds kPatience{10000};
+  // In milliseconds. Far longer than any disk takes for a file of settings, so that only a program
+  // that stands still is passed over.
+  static constexpr int kPatience = 10000;
 
   // Of the folder that `hostPath` lies in. Once a wait was in vain the next ones look once, until
   // one finds the folder free: a hundred keys don't take a hundred waits.
-  explicit FolderLock(const std::string& hostPath, std::chrono::milliseconds patience = kPatience);
+  explicit FolderLock(const std::string& hostPath, int patience = kPatience);
   ~FolderLock();
   FolderLock(const FolderLock&) = delete;
   FolderLock& operator=(const FolderLock&) = delete;

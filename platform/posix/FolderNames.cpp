@@ -44,10 +44,12 @@ bool ReadStamp(const std::string& folder, Stamp* stamp) {
   return true;
 }
 
-// A name with its letters in upper case; names that the code page can't hold stay as they are.
+// A name with its letters in upper case, and "?" for each that the code page can't hold, as the
+// station has it.
 std::string Fold(const std::string& utf8) {
   std::string text;
-  return FromUtf8(utf8, &text) ? ToUpper(text) : utf8;
+  FromUtf8(utf8, &text);
+  return ToUpper(text);
 }
 
 void ReadNames(const std::string& path, Folder* folder) {

@@ -68,7 +68,8 @@ int32_t PosixDirectories::ChangeDirectory(const std::string& path) {
 int32_t PosixDirectories::CurrentDirectory(std::string* path) {
   char text[PATH_MAX];
   if (getcwd(text, sizeof text) == nullptr) return ErrorFromErrno(errno, "");
-  return FromUtf8(text, path) ? kNoError : kPathNotFound;
+  FromUtf8(text, path);
+  return HostPath(*path) == text ? kNoError : kPathNotFound;
 }
 
 int32_t PosixDirectories::RootLength(const std::string& path) {

@@ -68,6 +68,8 @@ std::string DocumentsFolder() {
     std::string folder = line.substr(key.size(), line.size() - key.size() - 1);
     const std::string homeMark = "$HOME";
     if (folder.rfind(homeMark, 0) == 0) folder.replace(0, homeMark.size(), home);
+    // A path has no separator at its end, except for the root's.
+    while (folder.size() > 1 && folder.back() == '/') folder.pop_back();
     if (!folder.empty() && folder[0] == '/') return folder;
   }
   return IsDirectory(home + "/Documents") ? home + "/Documents" : home;

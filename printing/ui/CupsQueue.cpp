@@ -41,12 +41,13 @@ void RequireReady(const QByteArray& queue) {
 }  // namespace
 
 void SubmitToQueue(const QString& queue, const QString& file, const QString& title,
-                   const char* sides) {
+                   const char* sides, int copies) {
   const QByteArray name = queue.toUtf8();
   RequireReady(name);
   cups_option_t* options = nullptr;
   int count = 0;
   if (*sides != '\0') count = cupsAddOption("sides", sides, count, &options);
+  if (copies > 1) count = cupsAddOption("copies", std::to_string(copies).c_str(), count, &options);
   const int job = cupsPrintFile(name.constData(), file.toUtf8().constData(),
                                 title.toUtf8().constData(), count, options);
   cupsFreeOptions(count, options);

@@ -50,7 +50,7 @@ void PrintJob::Send() {
   } else if (queue_.isEmpty()) {
     throw PrintError(kPrinterError, "There is no printer");
   } else {
-    SubmitToQueue(queue_, paper_.outputFileName(), title_, SidesOf(duplex_));
+    SubmitToQueue(queue_, paper_.outputFileName(), title_, SidesOf(duplex_), copies_);
   }
 }
 

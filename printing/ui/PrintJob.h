@@ -15,6 +15,8 @@ class PrintJob {
 
   // To be drawn on with a painter, which must have ended before Send.
   QPrinter& Paper() { return paper_; }
+  // How many of the job the printer makes; 1 at first. A PDF file is one however many.
+  void SetCopies(int copies) { copies_ = copies; }
   // Hands the job over. Throws PrintError. A job that is never sent leaves nothing behind.
   void Send();
   // The printer's name, or the file's.
@@ -29,6 +31,7 @@ class PrintJob {
   QString queue_;    // empty for a PDF file
   QString pdfFile_;  // empty for a queue
   QPrinter::DuplexMode duplex_;
+  int copies_ = 1;
 };
 
 }  // namespace logchecker

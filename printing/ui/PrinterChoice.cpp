@@ -21,7 +21,7 @@ std::optional<PrinterChoice> AskForPrinter(QWidget* owner, const QString& title,
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
   choice.selectionOnly = dialog.printRange() == QAbstractPrintDialog::Selection;
   choice.copies = std::max(choice.printer->copyCount(), 1);
-  // Each copy is a job of its own; with the printer's count left as it is three would make nine.
+  // Whoever prints makes the copies; with the printer's count left as it is three would make nine.
   choice.printer->setCopyCount(1);
   return choice;
 }

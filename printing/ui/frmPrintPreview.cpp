@@ -1,7 +1,6 @@
 #include "printing/ui/frmPrintPreview.h"
 
 #include <QAbstractTextDocumentLayout>
-#include <QCloseEvent>
 #include <QDir>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -63,7 +62,8 @@ frmPrintPreview::~frmPrintPreview() = default;
 void frmPrintPreview::Place() {
   const QScreen* screen = QGuiApplication::primaryScreen();
   if (screen == nullptr) return;
-  move(screen->geometry().x() + (screen->geometry().width() - width()) / 2, ToPixels(kTop));
+  move(screen->geometry().x() + (screen->geometry().width() - frameGeometry().width()) / 2,
+       ToPixels(kTop));
 }
 
 void frmPrintPreview::SetOnTop(bool onTop) {
@@ -82,11 +82,6 @@ void frmPrintPreview::SetOnTop(bool onTop) {
 void frmPrintPreview::SetFloater() { SetOnTop(true); }
 
 void frmPrintPreview::SetNonFloater() { SetOnTop(false); }
-
-void frmPrintPreview::showEvent(QShowEvent* event) {
-  BecomeActive();
-  QDialog::showEvent(event);
-}
 
 void frmPrintPreview::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
@@ -119,22 +114,19 @@ void frmPrintPreview::OnPrint() {
   const std::optional<PrinterChoice> choice = AskForPrinter(this, windowTitle(), anySelected);
   if (!choice) return;
   if (!choice->selectionOnly) ui_->rtfFile->moveCursor(QTextCursor::Start);
+  QTextCursor source = ui_->rtfFile->textCursor();
+  if (!source.hasSelection()) source.select(QTextCursor::Document);
   try {
-    for (int copy = 1; copy <= choice->copies; ++copy) {
-      PrintJob job(*choice->printer, windowTitle());
-      QTextDocument document;
-      document.setDefaultFont(QFont("Courier"));
-      QTextCursor target(&document);
-      const QTextCursor all(ui_->rtfFile->document());
-      QTextCursor source = choice->selectionOnly ? ui_->rtfFile->textCursor() : all;
-      if (!choice->selectionOnly) source.select(QTextCursor::Document);
-      target.insertFragment(source.selection());
-      // With pages of its own size the text gets no page numbers, which a note has none of.
-      document.documentLayout()->setPaintDevice(&job.Paper());
-      document.setPageSize(job.Paper().pageRect(QPrinter::DevicePixel).size());
-      document.print(&job.Paper());
-      job.Send();
-    }
+    PrintJob job(*choice->printer, windowTitle());
+    job.SetCopies(choice->copies);
+    QTextDocument document;
+    document.setDefaultFont(QFont("Courier"));
+    QTextCursor(&document).insertFragment(source.selection());
+    // With pages of its own size the text gets no page numbers, which a note has none of.
+    document.documentLayout()->setPaintDevice(&job.Paper());
+    document.setPageSize(job.Paper().pageRect(QPrinter::DevicePixel).size());
+    document.print(&job.Paper());
+    job.Send();
   } catch (const PrintError& error) {
     gErrorState = {error.number(), error.what()};
     ShowErrorMessage("while printing.", error.number(), false);
@@ -142,18 +134,18 @@ void frmPrintPreview::OnPrint() {
 }
 
 void frmPrintPreview::OnSave() {
-  SaveDialog dialog(this, "Select File to Save to", "All Files (*.*)", "", "");
+  SaveDialog dialog(this, "Select File to Save to", {{"All Files", "*"}}, "", "");
   dialog.SetOverwritePrompt(false);
   const std::optional<std::string> file = dialog.Ask("*.*");
-  if (file && !Trim(*file).empty()) SaveAs(*file);
+  if (file && !Trim(file->substr(file->find_last_of("\\/") + 1)).empty()) SaveAs(*file);
 }
 
 // As plain text, without a word whatever comes of it.
 void frmPrintPreview::SaveAs(const std::string& file) {
-  std::string text = FromQString(ui_->rtfFile->toPlainText());
-  std::string lines;
-  for (const char c : text) lines += c == '\n' ? std::string("\r\n") : std::string(1, c);
-  WriteTextFile(file, lines);
+  // The box's own plain text would turn blanks that don't break into others.
+  QString text = ui_->rtfFile->document()->toRawText();
+  text.replace(QChar::ParagraphSeparator, "\r\n").replace(QChar::LineSeparator, "\r\n");
+  WriteTextFile(file, FromQString(text));
 }
 
 bool frmPrintPreview::eventFilter(QObject* watched, QEvent* event) {
@@ -173,12 +165,13 @@ bool frmPrintPreview::eventFilter(QObject* watched, QEvent* event) {
   return QDialog::eventFilter(watched, event);
 }
 
-void frmPrintPreview::closeEvent(QCloseEvent* event) {
+// Whichever way the window goes.
+void frmPrintPreview::reject() {
+  QDialog::reject();
   SetNonFloater();
   Owner = nullptr;
   activated_ = 0;
   ui_->rtfFile->clear();
-  QDialog::closeEvent(event);
 }
 
 void frmPrintPreview::DisplayFolder(const std::string& folder, const std::string& extension) {

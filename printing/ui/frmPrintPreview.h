@@ -43,9 +43,8 @@ class frmPrintPreview : public QDialog {
   KeyOwner* Owner = nullptr;
 
  protected:
-  void showEvent(QShowEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void closeEvent(QCloseEvent* event) override;
+  void reject() override;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:

@@ -196,8 +196,9 @@ void frmMain::SwitchFocus() {
 
 void frmMain::resizeEvent(QResizeEvent* event) {
   QMainWindow::resizeEvent(event);
-  if (!isMinimized() && ToTwips(height()) < kLeastHeight) {
-    resize(width(), ToPixels(kLeastHeight));
+  const int frame = frameGeometry().height() - height();
+  if (!isMinimized() && ToTwips(height() + frame) < kLeastHeight) {
+    resize(width(), ToPixels(kLeastHeight) - frame);
   }
 }
 

@@ -1,5 +1,6 @@
 #include "shell/ui/frmSplash.h"
 
+#include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
@@ -90,6 +91,7 @@ void frmSplash::SetCurrentAction(const std::string& text) {
 void frmSplash::ShowAsAboutBox() {
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
+  if (floating_ != 0) setWindowFlag(Qt::WindowStaysOnTopHint);
   ui_->cmdOK->show();
   show();
   raise();
@@ -110,6 +112,13 @@ void frmSplash::showEvent(QShowEvent* event) {
 void frmSplash::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) Ui().Yield();
+}
+
+// The splash is the program's to close; the about box goes by its button, or as if by it.
+void frmSplash::closeEvent(QCloseEvent* event) {
+  if (!event->spontaneous()) return;
+  event->ignore();
+  if (ui_->cmdOK->isVisible()) ui_->cmdOK->click();
 }
 
 // A hair line around the window, which has no frame of its own.

@@ -75,6 +75,32 @@ TEST_F(CartBrowserWindowTest, AResultHidesTheWindowAndTellsTheOpenerOnce) {
   EXPECT_THAT(opener.told, ElementsAre(42));
 }
 
+TEST_F(CartBrowserWindowTest, TheOpenerIsToldBehindTheHidingAndLetGoBehindTheCall) {
+  class LookingOpener : public CartDisplay {
+   public:
+    LookingOpener(CartBrowser& browser, const RecordingBrowserFace& face)
+        : browser_(browser), face_(face) {}
+    void UpdateDisplay(int32_t /*cartNumber*/) override {
+      EXPECT_EQ("42", browser_.Tag);
+      EXPECT_EQ(1, face_.hidden);
+      EXPECT_FALSE(browser_.Activated());
+      EXPECT_EQ(this, browser_.ParentForm);
+      browser_.ParentForm = this;
+      ++calls;
+    }
+    int calls = 0;
+
+   private:
+    CartBrowser& browser_;
+    const RecordingBrowserFace& face_;
+  };
+  LookingOpener looking(browser, face);
+  browser.ParentForm = &looking;
+  browser.ReturnCartNumber(42);
+  EXPECT_EQ(1, looking.calls);
+  EXPECT_EQ(nullptr, browser.ParentForm);
+}
+
 TEST_F(CartBrowserWindowTest, CancelReturnsNothing) {
   browser.Cancel();
   ExpectReturned(0);

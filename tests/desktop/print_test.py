@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Prints the results through a real print scheduler to a queue on this machine, whose printer is an IPP
-printer on the loopback address: three copies make three jobs, and a queue that is stopped or takes no
-jobs gives the message of a failure. Skipped (77) where the scheduler can't run."""
+printer on the loopback address: three copies make three jobs, a note in two copies makes one, and a
+queue that is stopped or takes no jobs gives the message of a failure. Skipped (77) where the scheduler
+can't run."""
 
 import os
 import pathlib
@@ -45,7 +46,7 @@ class Scheduler:
             (folder / name).mkdir(parents=True)
         (folder / "cupsd.conf").write_text(
             f"Listen 127.0.0.1:{self.port}\nBrowsing Off\nDefaultAuthType None\nLogLevel warn\n"
-            "MaxJobs 0\nPreserveJobHistory Yes\nWebInterface No\n"
+            "MaxJobs 0\nPreserveJobHistory Yes\nDirtyCleanInterval 0\nWebInterface No\n"
             "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
             "<Policy default>\n  <Limit All>\n    Order allow,deny\n    Allow all\n  </Limit>\n"
             "</Policy>\n")
@@ -117,6 +118,16 @@ def print_three_copies(scheduler, expect):
     assert done.returncode == 0 and "PASSED  ] 1 test" in done.stdout, done.stdout + done.stderr
 
 
+def print_a_note_twice(scheduler, folder):
+    before = {job.name for job in (folder / "spool").glob("c*")}
+    done = scheduler.call(str(BIN / "printing_ui_tests"), "--gtest_filter=NoteQueueTest.*")
+    assert done.returncode == 0 and "PASSED  ] 1 test" in done.stdout, done.stdout + done.stderr
+    new = [job for job in (folder / "spool").glob("c*") if job.name not in before]
+    assert len(new) == 1, new
+    # In the job's attributes: a number of four bytes, by its name.
+    assert b"!\x00\x06copies\x00\x04\x00\x00\x00\x02" in new[0].read_bytes(), new[0].read_bytes()
+
+
 def main():
     for tool in ("cupsd", "ippeveprinter", "lpadmin", "lpstat"):
         if shutil.which(tool) is None:
@@ -130,12 +141,13 @@ def main():
         make_queue(scheduler)
         print_three_copies(scheduler, "printed")
         assert len(jobs(scheduler)) == 3, jobs(scheduler)
+        print_a_note_twice(scheduler, folder)
         scheduler.call("cupsdisable", QUEUE)
         print_three_copies(scheduler, "The printer is stopped")
         scheduler.call("cupsenable", QUEUE)
         scheduler.call("cupsreject", QUEUE)
         print_three_copies(scheduler, "The printer takes no jobs")
-        assert len(jobs(scheduler)) == 3, "a queue that refuses got a job"
+        assert len(jobs(scheduler)) == 4, "a queue that refuses got a job"
         print("three copies are three jobs, and a refusal is said")
     finally:
         scheduler.stop()

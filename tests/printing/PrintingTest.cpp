@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "common/ErrorState.h"
 #include "tests/printing/RecordingCanvas.h"
 
@@ -167,6 +169,7 @@ TEST_F(PrintingTest, TheOwnerMayChangeWidthsRowsAndCells) {
   };
   ASSERT_TRUE(Print());
   EXPECT_EQ(PrintsOf("2/2"), 1);
+  EXPECT_THAT(canvas.log, Contains("70,460 12 b North")) << "which has the first one's room";
   EXPECT_EQ(PrintsOf("1/2"), 0);
   EXPECT_EQ(PrintsOf("Time"), 0);
 }
@@ -181,6 +184,46 @@ TEST_F(PrintingTest, AllRowsCountInTheProgressAndAHundredEndsIt) {
   ASSERT_TRUE(Print(-1));
   EXPECT_THAT(told, ElementsAre(std::pair(0, 0), std::pair(12, 1), std::pair(25, 2),
                                 std::pair(38, 3), std::pair(100, 4)));
+}
+
+TEST_F(PrintingTest, TheShareOfTheRowsIsRoundedAfterItsDivision) {
+  list.ListItems.assign(40, Row("r", {"x"}));
+  std::vector<int> told;
+  printing.hooks.PrintProgress = [&](const ListView&, int16_t percent, int32_t) {
+    told.push_back(percent);
+  };
+  ASSERT_TRUE(Print());
+  EXPECT_EQ(told[23], 57) << "23 / 40 lies just below 0.575";
+  EXPECT_EQ(told[1], 2);
+}
+
+TEST_F(PrintingTest, TheOwnerSeesTheRowsStateTheLinesAndEveryCell) {
+  list.ListItems[0].Selected = true;
+  list.ListItems[1].ListSubItems.clear();
+  std::vector<std::string> told;
+  printing.hooks.CheckPrintRow = [&](const ListView&, int32_t row, bool& printIt, int32_t lines) {
+    told.push_back("row " + std::to_string(row) + (printIt ? " prints " : " does not ") +
+                   std::to_string(lines));
+    printIt = true;
+  };
+  printing.hooks.CheckPrintCell = [&](const ListView&, int32_t row, int32_t column,
+                                      std::string& text, int32_t lines) {
+    if (row == 2 && column == 2) {
+      told.push_back("cell '" + text + "' " + std::to_string(lines));
+      text = "filled";
+    }
+  };
+  ASSERT_TRUE(Print(-1));
+  EXPECT_THAT(told, ElementsAre("row 1 prints 0", "row 2 does not 1", "cell '' 1"));
+  EXPECT_EQ(PrintsOf("filled"), 1);
+}
+
+TEST_F(PrintingTest, WidthsThatNoNumberHoldsAreAnOverflow) {
+  printing.hooks.CheckColWidth = [](const ListView&, int32_t, int32_t& width) {
+    width = std::numeric_limits<int32_t>::max();
+  };
+  EXPECT_FALSE(Print());
+  EXPECT_EQ(printing.GetLastError(), "Overflow");
 }
 
 TEST_F(PrintingTest, ARowNearTheFootSendsTheNextToANewPageWithHeadingsAndNoTitle) {

@@ -152,6 +152,8 @@ TEST(RichTextTest, WhatIsNoRichTextIsPlainText) {
   EXPECT_EQ(ReadRichText("\r\n\r\nx").PlainText(), "\n\nx");
   EXPECT_EQ(ReadRichText("caf\xE9 {\\b x}").PlainText(), "caf\xC3\xA9 {\\b x}");
   EXPECT_EQ(ReadRichText("").PlainText(), "");
+  EXPECT_EQ(ReadRichText("one\r\n").PlainText(), "one\n") << "no line's end is lost";
+  EXPECT_EQ(ReadRichText("\n\n").PlainText(), "\n\n");
 }
 
 TEST(RichTextTest, BrokenFilesGiveWhatTheyHave) {

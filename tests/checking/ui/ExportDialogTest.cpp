@@ -1,5 +1,7 @@
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QTimer>
 #include <QToolButton>
 
@@ -42,12 +44,36 @@ TEST_F(ExportDialogTest, OffersTheRememberedFolderAndTheFilters) {
     auto* files = qobject_cast<QFileDialog*>(dialog);
     ASSERT_NE(files, nullptr);
     EXPECT_EQ(files->windowTitle(), "Export Results to CSV File...");
-    EXPECT_EQ(files->nameFilters(),
-              QStringList({"Comma Separated Variable Files (*.CSV)", "All Files (*.*)"}));
+    const auto* filters = Control<QComboBox>(dialog, "fileTypeCombo");
+    EXPECT_EQ(filters->count(), 2);
+    EXPECT_EQ(filters->itemText(0), "Comma Separated Variable Files (*.CSV)");
+    EXPECT_EQ(filters->itemText(1), "All Files (*.*)");
     EXPECT_EQ(files->defaultSuffix(), "CSV");
     EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
     EXPECT_EQ(Name(dialog)->text(), "*.CSV");
     EXPECT_EQ(files->directory().canonicalPath().toStdString(), ToHostPath(folder().Path()));
+    dialog->reject();
+  });
+  Save();
+}
+
+TEST_F(ExportDialogTest, AllFilesShowsAllOfThemAndLeavesTheNameAlone) {
+  Check();
+  folder().WriteFile("README", "");
+  DialogScript script([&](QDialog* dialog) {
+    auto* filters = Control<QComboBox>(dialog, "fileTypeCombo");
+    Name(dialog)->setText("report.csv");
+    filters->setCurrentIndex(1);
+    emit filters->activated(1);
+    EXPECT_EQ(Name(dialog)->text(), "report.csv");
+    auto* files = Control<QListView>(dialog, "listView");
+    const auto shown = [&] {
+      return !files->model()
+                  ->match(files->model()->index(0, 0, files->rootIndex()), Qt::DisplayRole,
+                          "README", 1, Qt::MatchExactly)
+                  .isEmpty();
+    };
+    EXPECT_TRUE(QTest::qWaitFor(shown));
     dialog->reject();
   });
   Save();

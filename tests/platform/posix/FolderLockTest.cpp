@@ -12,7 +12,8 @@
 namespace logchecker {
 namespace {
 
-using std::chrono::milliseconds;
+constexpr int kAnHour = 3600000;  // in milliseconds
+
 using Clock = std::chrono::steady_clock;
 
 class FolderLockTest : public ::testing::Test {
@@ -21,7 +22,7 @@ class FolderLockTest : public ::testing::Test {
   FolderLockTest() { FolderLock free(folder_.Path("a.ini")); }
 
   // How long it took to go on without the folder.
-  Clock::duration WaitInVain(milliseconds patience) const {
+  Clock::duration WaitInVain(int patience) const {
     const Clock::time_point start = Clock::now();
     EXPECT_FALSE(FolderLock(folder_.Path("a.ini"), patience).held());
     return Clock::now() - start;
@@ -33,38 +34,37 @@ class FolderLockTest : public ::testing::Test {
 TEST_F(FolderLockTest, OneAtATimeHasTheFolderWhicheverFileIsMeant) {
   const FolderLock first(folder_.Path("a.ini"));
   EXPECT_TRUE(first.held());
-  EXPECT_FALSE(FolderLock(folder_.Path("b.ini"), milliseconds(0)).held());
+  EXPECT_FALSE(FolderLock(folder_.Path("b.ini"), 0).held());
   const TempFolder other;
-  EXPECT_TRUE(FolderLock(other.Path("a.ini"), milliseconds(0)).held());
+  EXPECT_TRUE(FolderLock(other.Path("a.ini"), 0).held());
 }
 
 TEST_F(FolderLockTest, ItIsFreeAgainAndNothingIsLeftBehind) {
   { const FolderLock first(folder_.Path("a.ini")); }
-  EXPECT_TRUE(FolderLock(folder_.Path("a.ini"), milliseconds(0)).held());
+  EXPECT_TRUE(FolderLock(folder_.Path("a.ini"), 0).held());
   EXPECT_EQ(0U, folder_.Count());
 }
 
 TEST_F(FolderLockTest, TheNextWaitsUntilTheFolderIsFree) {
   auto first = std::make_unique<FolderLock>(folder_.Path("a.ini"));
-  auto next = std::async(std::launch::async, [this] {
-    return FolderLock(folder_.Path("a.ini"), std::chrono::hours(1)).held();
-  });
+  auto next = std::async(std::launch::async,
+                         [this] { return FolderLock(folder_.Path("a.ini"), kAnHour).held(); });
   first.reset();
   EXPECT_TRUE(next.get());
 }
 
 TEST_F(FolderLockTest, AfterAWaitInVainTheNextLooksOnceUntilTheFolderIsFree) {
   auto first = std::make_unique<FolderLock>(folder_.Path("a.ini"));
-  EXPECT_GE(WaitInVain(milliseconds(20)), milliseconds(20));
-  EXPECT_LT(WaitInVain(std::chrono::hours(1)), std::chrono::minutes(10));
+  EXPECT_GE(WaitInVain(20), std::chrono::milliseconds(20));
+  EXPECT_LT(WaitInVain(kAnHour), std::chrono::minutes(10));
   first.reset();
   EXPECT_TRUE(FolderLock(folder_.Path("a.ini")).held());
   first = std::make_unique<FolderLock>(folder_.Path("a.ini"));
-  EXPECT_GE(WaitInVain(milliseconds(20)), milliseconds(20));
+  EXPECT_GE(WaitInVain(20), std::chrono::milliseconds(20));
 }
 
 TEST_F(FolderLockTest, AFolderThatIsMissingIsNotWaitedFor) {
-  EXPECT_FALSE(FolderLock(folder_.Path("none") + "/a.ini", std::chrono::hours(1)).held());
+  EXPECT_FALSE(FolderLock(folder_.Path("none") + "/a.ini", kAnHour).held());
 }
 
 }  // namespace

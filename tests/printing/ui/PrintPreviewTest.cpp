@@ -7,9 +7,12 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QRegularExpression>
 #include <QScreen>
 #include <QTextEdit>
+#include <functional>
 
+#include "common/ErrorState.h"
 #include "platform/HostPaths.h"
 #include "platform/Platform.h"
 #include "printing/ui/frmPrintPreview.h"
@@ -50,14 +53,42 @@ class PrintPreviewTest : public WindowTest {
       printer->accept();
     });
     Press("cmdPrint");
-    QProcess reader;
-    reader.start("pdftotext", {pdf, "-"});
-    reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput());
+    pages = OutputOf("pdfinfo", {pdf}).count(QRegularExpression("Pages: +1\n"));
+    return OutputOf("pdftotext", {pdf, "-"});
+  }
+  static QString OutputOf(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return QString::fromUtf8(process.readAllStandardOutput());
+  }
+  void Select(int from, int to) {
+    QTextCursor cursor(Box()->document());
+    cursor.setPosition(from);
+    cursor.setPosition(to, QTextCursor::KeepAnchor);
+    Box()->setTextCursor(cursor);
+  }
+  // Saves under a name that is typed into the dialog.
+  void SaveUnder(const QString& name) {
+    DialogScript script([&](QDialog* dialog) {
+      EXPECT_EQ(dialog->windowTitle(), "Select File to Save to");
+      auto* box = Control<QLineEdit>(dialog, "fileNameEdit");
+      EXPECT_EQ(box->text(), "*.*");
+      QApplication::setActiveWindow(dialog);
+      box->setFocus();
+      box->setText(name);
+      QTest::keyClick(box, Qt::Key_Return);
+      if (dialog->isVisible()) dialog->reject();
+    });
+    Press("cmdSave");
+  }
+  QString HostName(const char* name) const {
+    return QString::fromStdString(ToHostPath(Path(name)));
   }
 
   frmPrintPreview preview;
   bool presetSelection = false;
+  qsizetype pages = 0;  // 1 where a file of one page was printed
 };
 
 TEST_F(PrintPreviewTest, ShowsRichTextWithItsFormats) {
@@ -81,7 +112,8 @@ TEST_F(PrintPreviewTest, AMissingFileLeavesTheWindowEmptyWithoutAWord) {
   Open(Path("nothing.rtf"));
   EXPECT_EQ(Text(), "");
   EXPECT_TRUE(ui.messages.empty());
-  EXPECT_EQ(Printed(std::nullopt).trimmed(), "") << "a blank job";
+  EXPECT_EQ(Printed(std::nullopt).trimmed(), "");
+  EXPECT_EQ(pages, 1) << "a blank job";
   EXPECT_TRUE(ui.messages.empty());
 }
 
@@ -102,6 +134,7 @@ TEST_F(PrintPreviewTest, TheFileIsReadAgainTheFirstTimeTheWindowBecomesActive) {
   preview.LoadFile(Path("note.txt"));
   folder().WriteFile("note.txt", "changed");
   preview.show();
+  QApplication::setActiveWindow(&preview);
   EXPECT_EQ(Text(), "changed");
   folder().WriteFile("note.txt", "again");
   QWidget other;
@@ -115,12 +148,23 @@ TEST_F(PrintPreviewTest, StandsOnTopInTheMiddleOfTheScreensUpperEdge) {
   Open(Path("note.txt"));
   EXPECT_TRUE(preview.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_EQ(preview.y(), 2);
-  EXPECT_EQ(preview.x(), (preview.screen()->geometry().width() - preview.width()) / 2);
+  EXPECT_EQ(preview.x(),
+            (preview.screen()->geometry().width() - preview.frameGeometry().width()) / 2);
   preview.SetNonFloater();
   EXPECT_FALSE(preview.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
   EXPECT_TRUE(preview.isVisible());
   preview.SetFloater();
   EXPECT_TRUE(preview.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+}
+
+TEST_F(PrintPreviewTest, TheFirstActivationPutsTheWindowAndThePointerBack) {
+  preview.LoadFile(Path("note.txt"));
+  preview.move(300, 200);
+  ui.SetMousePointer(MousePointer::kHourglass);
+  preview.show();
+  QApplication::setActiveWindow(&preview);
+  EXPECT_EQ(preview.y(), 2);
+  EXPECT_EQ(ui.pointer, MousePointer::kDefault);
 }
 
 TEST_F(PrintPreviewTest, PrintsAll) {
@@ -133,15 +177,17 @@ TEST_F(PrintPreviewTest, PrintsAll) {
 
 TEST_F(PrintPreviewTest, ASelectionIsPresetAndPrintsAloneUnlessAllIsPicked) {
   Open(Path("note.rtf"));
-  QTextCursor cursor(Box()->document());
-  cursor.setPosition(6);
-  cursor.setPosition(10, QTextCursor::KeepAnchor);
-  Box()->setTextCursor(cursor);
+  Select(6, 10);
   const QString selected = Printed(std::nullopt);
   EXPECT_TRUE(presetSelection);
   EXPECT_TRUE(selected.contains("bold"));
   EXPECT_FALSE(selected.contains("first"));
   EXPECT_TRUE(Printed(false).contains("first bold"));
+}
+
+TEST_F(PrintPreviewTest, WhereNothingIsSelectedTheSelectionIsEverything) {
+  Open(Path("note.rtf"));
+  EXPECT_TRUE(Printed(true).contains("first bold"));
 }
 
 TEST_F(PrintPreviewTest, AFailureOfThePrinterIsSaid) {
@@ -155,14 +201,17 @@ TEST_F(PrintPreviewTest, AFailureOfThePrinterIsSaid) {
   Press("cmdPrint");
   ASSERT_EQ(ui.messages.size(), 1U);
   EXPECT_EQ(ui.messages[0].text.find("There was a problem while printing."), 0U);
+  EXPECT_NE(ui.messages[0].text.find(ErrorText(kPathFileAccess)), std::string::npos);
 }
 
 TEST_F(PrintPreviewTest, CancelledDialogsLeaveTheWindowAsItWas) {
   Open(Path("note.rtf"));
+  Select(6, 10);
   for (const char* button : {"cmdPrint", "cmdSave"}) {
     DialogScript script([](QDialog* dialog) { dialog->reject(); });
     Press(button);
   }
+  EXPECT_EQ(Box()->textCursor().selectedText(), "bold");
   EXPECT_EQ(Text(), QString::fromUtf8("first bold\ncaf\xC3\xA9"));
   EXPECT_TRUE(ui.messages.empty());
 }
@@ -170,32 +219,34 @@ TEST_F(PrintPreviewTest, CancelledDialogsLeaveTheWindowAsItWas) {
 TEST_F(PrintPreviewTest, SavesPlainTextWithoutAWord) {
   Open(Path("note.rtf"));
   folder().WriteFile("copy.txt", "old");
-  DialogScript script([&](QDialog* dialog) {
-    EXPECT_EQ(dialog->windowTitle(), "Select File to Save to");
-    auto* name = Control<QLineEdit>(dialog, "fileNameEdit");
-    EXPECT_EQ(name->text(), "*.*");
-    QApplication::setActiveWindow(dialog);
-    name->setFocus();
-    name->setText(QString::fromStdString(ToHostPath(Path("copy.txt"))));
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  Press("cmdSave");
+  SaveUnder(HostName("copy.txt"));
   EXPECT_EQ(folder().ReadFile("copy.txt"), "first bold\r\ncaf\xE9");
   EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(PrintPreviewTest, ACopyKeepsEveryBlankAndTheLastLinesEnd) {
+  folder().WriteFile("note.txt",
+                     "a\xA0"
+                     "b  c\td\n\r\n");
+  Open(Path("note.txt"));
+  SaveUnder(HostName("copy.txt"));
+  EXPECT_EQ(folder().ReadFile("copy.txt"),
+            "a\xA0"
+            "b  c\td\r\n\r\n");
+}
+
+TEST_F(PrintPreviewTest, ABlankNameSavesNothing) {
+  Open(Path("note.txt"));
+  const size_t before = folder().Count();
+  SaveUnder(HostName(" "));
+  EXPECT_EQ(folder().Count(), before);
 }
 
 TEST_F(PrintPreviewTest, ASaveThatFailsLeavesTheOldFileAndSaysNothing) {
   Open(Path("note.rtf"));
   folder().WriteFile("copy.txt", "old");
   os.script.FailNamed("Files.Write", 1, kDiskFull);
-  DialogScript script([&](QDialog* dialog) {
-    auto* name = Control<QLineEdit>(dialog, "fileNameEdit");
-    QApplication::setActiveWindow(dialog);
-    name->setFocus();
-    name->setText(QString::fromStdString(ToHostPath(Path("copy.txt"))));
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  Press("cmdSave");
+  SaveUnder(HostName("copy.txt"));
   EXPECT_EQ(folder().ReadFile("copy.txt"), "old");
   EXPECT_TRUE(ui.messages.empty());
 }
@@ -214,27 +265,35 @@ TEST_F(PrintPreviewTest, KeysThatMeanNothingHereGoToTheOwner) {
   Open(Path("note.txt"));
   QTest::keyClick(Box(), Qt::Key_F);
   preview.Owner = &owner;
-  for (const Qt::Key own :
-       {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End, Qt::Key_Up, Qt::Key_Left,
-        Qt::Key_Down, Qt::Key_Right, Qt::Key_P, Qt::Key_S, Qt::Key_O}) {
-    QTest::keyClick(Box(), own);
+  for (const Qt::Key own : {Qt::Key_PageDown, Qt::Key_PageUp, Qt::Key_Home, Qt::Key_End, Qt::Key_Up,
+                            Qt::Key_Left, Qt::Key_Down, Qt::Key_Right, Qt::Key_Execute,
+                            Qt::Key_Enter, Qt::Key_P, Qt::Key_S, Qt::Key_O}) {
+    QTest::sendKeyEvent(QTest::Click, Box(), own, QString(), Qt::NoModifier);
   }
   EXPECT_TRUE(owner.keys.empty());
   QTest::keyClick(Box(), Qt::Key_F, Qt::ShiftModifier);
   QTest::keyClick(Box(), Qt::Key_F5);
-  EXPECT_EQ(owner.keys, (std::vector<std::pair<int32_t, int32_t>>{{70, 1}, {116, 0}}));
+  QTest::sendKeyEvent(QTest::Click, Box(), Qt::Key_CapsLock, QString(), Qt::NoModifier);
+  EXPECT_EQ(owner.keys, (std::vector<std::pair<int32_t, int32_t>>{{70, 1}, {116, 0}, {20, 0}}));
   EXPECT_EQ(StoppedBy(), 0) << "the owner's errors are ignored";
 }
 
-TEST_F(PrintPreviewTest, OkClosesAndForgets) {
-  RecordingOwner owner;
-  Open(Path("note.txt"));
-  preview.Owner = &owner;
-  Press("cmdDone");
-  EXPECT_FALSE(preview.isVisible());
-  EXPECT_EQ(preview.Owner, nullptr);
-  EXPECT_EQ(Text(), "");
-  EXPECT_FALSE(preview.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+TEST_F(PrintPreviewTest, OkEscapeAndTheCloseBoxCloseAndForget) {
+  const std::function<void()> ways[] = {[&] { Press("cmdDone"); },
+                                        [&] { QTest::keyClick(Box(), Qt::Key_Escape); },
+                                        [&] { preview.close(); }};
+  for (const auto& way : ways) {
+    RecordingOwner owner;
+    preview.SetFloater();
+    Open(Path("note.txt"));
+    EXPECT_EQ(Text(), "plain <b>text</b>\nsecond");
+    preview.Owner = &owner;
+    way();
+    EXPECT_FALSE(preview.isVisible());
+    EXPECT_EQ(preview.Owner, nullptr);
+    EXPECT_EQ(Text(), "");
+    EXPECT_FALSE(preview.windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  }
 }
 
 TEST_F(PrintPreviewTest, AFolderShowsItsFilesAndTheFirstOnesText) {

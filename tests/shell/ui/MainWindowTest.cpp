@@ -246,7 +246,7 @@ TEST_F(MainWindowTest, TheWindowListHasTheOpenChildrenInPlainText) {
 TEST_F(MainWindowTest, TheFrameIsNeverLowerThan3000Twips) {
   ASSERT_TRUE(Start());
   main->resize(700, 120);
-  EXPECT_EQ(main->height(), ToPixels(3000));
+  EXPECT_EQ(main->frameGeometry().height(), ToPixels(3000));
 }
 
 TEST_F(MainWindowTest, TheKeyboardReachesToolbarAndWindows) {
