@@ -56,6 +56,17 @@ TEST_F(CartBrowserWindowTest, OnlyTheFirstActivationOfAShowingJumps) {
   EXPECT_EQ(1, face.focused);
 }
 
+TEST_F(CartBrowserWindowTest, TheFirstActivationOfAShowingReadsItsRowsAnew) {
+  browser.CloseBox();
+  PutCart(3, RecordOfLength(10, "NEW WORDS"));
+  browser.Tag = "5";
+  face.refreshes = 0;
+  browser.Activate();
+  EXPECT_EQ(1, face.refreshes) << "of the jump none, the cart is on show";
+  EXPECT_EQ("NEW WORDS", browser.Row(3).Caption);
+  EXPECT_EQ("3", browser.Row(3).Tag);
+}
+
 TEST_F(CartBrowserWindowTest, AWindowThatIsNotActiveTakesNoFocus) {
   face.active = false;
   face.focused = 0;

@@ -45,6 +45,18 @@ TEST_F(FindCartWindowTest, BecomingActiveCountsOncePerShowing) {
   EXPECT_EQ(0, gLastFoundCart);
 }
 
+TEST_F(FindCartWindowTest, BecomingActiveStopsTheAnimationUnlessItIsMissing) {
+  find.CloseBox();
+  face.playing = true;
+  find.Activate();
+  EXPECT_FALSE(face.playing);
+  find.CloseBox();
+  find.AnimationMissing = true;
+  face.playing = true;
+  find.Activate();
+  EXPECT_TRUE(face.playing);
+}
+
 TEST_F(FindCartWindowTest, TheNextShowingIsCollapsedAndKeepsLengthAndTolerance) {
   find.input.LimitLines = true;
   find.input.Lines = {false, false, false};

@@ -72,7 +72,8 @@ TEST_F(FoundCartsTest, ALongNumberIsNotCut) {
 }
 
 TEST_F(FoundCartsTest, LengthsAreShownWithoutHundredthsAndLeadingZeros) {
-  const std::pair<float, const char*> cases[] = {{20, ":20"},
+  const std::pair<float, const char*> cases[] = {{0, ""},
+                                                 {20, ":20"},
                                                  {5, ": 5"},
                                                  {90, "1:30"},
                                                  {59.6F, "1:00"},

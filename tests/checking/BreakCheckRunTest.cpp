@@ -76,6 +76,28 @@ TEST_F(BreakCheckRunTest, WhileACheckRunsNothingCanBePrintedOrSaved) {
   EXPECT_EQ((std::vector<size_t>{0, 1}), watching.found);
 }
 
+// Turns the hundredths off once the first row is there.
+class SwitchingUi : public RecordingUi {
+ public:
+  explicit SwitchingUi(const BreakCheck& check) : check_(check) {}
+  void ShowProgress(int32_t value, int32_t maximum) override {
+    RecordingUi::ShowProgress(value, maximum);
+    if (!check_.lvwResults.ListItems.empty()) gGeneralSettings.DisplayCheckHH = false;
+  }
+
+ private:
+  const BreakCheck& check_;
+};
+
+TEST_F(BreakCheckRunTest, WhetherHundredthsShowIsReadAtEachRow) {
+  Fill(1, 10, {{1, "10:30"}, {4, "11:30"}});
+  Fill(2, 10, {{1, "12:30"}});
+  const SwitchingUi switching(check);
+  ASSERT_EQ(3U, Found());
+  EXPECT_EQ(" 2:00.00", check.lvwResults.ListItems[0].ListSubItems[0].text);
+  EXPECT_EQ(" 2:00", check.lvwResults.ListItems[1].ListSubItems[0].text);
+}
+
 TEST_F(BreakCheckRunTest, TheBarsMaximumIsTheGreatestRowCountButNotAbove32000) {
   struct Case {
     int32_t rows;

@@ -40,6 +40,23 @@ TEST_F(FileHelpersTest, AnUnendedFileLosesItsLastCharacter) {
   EXPECT_EQ((Lines{"AB"}), LinesOf("AB\r"));
 }
 
+// Files are read ahead in parts of 64 KiB; where one part ends must not show.
+TEST_F(FileHelpersTest, ALineGoesOnWhereTheReadAheadEnds) {
+  constexpr size_t kPart = size_t{64} * 1024;
+  for (const size_t parts : {size_t{1}, size_t{2}}) {
+    for (size_t before = parts * kPart - 2; before <= parts * kPart + 1; ++before) {
+      const std::string text(before, 'x');
+      EXPECT_EQ((Lines{text, "AB"}), LinesOf(text + "\nAB\n")) << before;
+      EXPECT_EQ((Lines{text, "AB"}), LinesOf(text + "\r\nAB\r\n")) << before;
+      EXPECT_EQ((Lines{text + "AB"}), LinesOf(text + "\rAB\n")) << before;
+      EXPECT_EQ((Lines{text}), LinesOf(text + "\n")) << before;
+      EXPECT_EQ((Lines{text}), LinesOf(text + "Z")) << "the last character is lost, " << before;
+      EXPECT_EQ((Lines{text}), LinesOf(text + "\r")) << before;
+      EXPECT_EQ((Lines{text, ""}), LinesOf(text + "\nZ")) << before;
+    }
+  }
+}
+
 TEST_F(FileHelpersTest, NoFileOrAFileAtItsEndGivesAnEmptyLine) {
   EXPECT_EQ("", ReadTextLine(0));
   EXPECT_EQ("", ReadTextLine(-1));

@@ -59,6 +59,24 @@ TEST_F(FolderHelpersTest, AFileInTheWayIsToldUnlessQuiet) {
   EXPECT_EQ(before, CurrentDirectory());
 }
 
+TEST_F(FolderHelpersTest, OnlyAFolderThatExistsIsGoneThroughWhenItCannotBeMade) {
+  const std::string before = CurrentDirectory();
+  ASSERT_TRUE(CreatePath(Path("a"), false));
+  os.script.FailNamed("Directories.MakeDirectory", 0, kPathFileAccess);
+  EXPECT_TRUE(CreatePath(Path("a"), false)) << "each stands, and that is no failure";
+  os.script.Clear();
+  os.script.FailNamed("Directories.MakeDirectory", 0, kPermissionDenied);
+  EXPECT_FALSE(CreatePath(Path("a"), false)) << "it stands, but the making met something else";
+  EXPECT_EQ(1, os.script.CountOf("Directories.MakeDirectory")) << "the first ends the walk";
+  ASSERT_EQ(1U, ui.messages.size());
+  EXPECT_EQ(
+      "There was a problem While Attempting to Create Directories on Destination Drive. and the "
+      "error's description was reported as : \n\n\"Permission denied\" (70)",
+      ui.messages[0].text);
+  EXPECT_EQ(before, CurrentDirectory());
+  EXPECT_EQ(MousePointer::kDefault, ui.pointer);
+}
+
 TEST_F(FolderHelpersTest, WhicheverCallFailsTheCurrentDirectoryStays) {
   const std::string before = CurrentDirectory();
   int n = 0;

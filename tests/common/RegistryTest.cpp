@@ -69,6 +69,18 @@ TEST_F(RegistryValuesTest, ACallThatFailsGivesTheDefault) {
   }
 }
 
+TEST_F(RegistryValuesTest, ANumberThatCannotBeReadIsTheDefault) {
+  SetRegistryDWord(kCurrentUserRoot, kKey, "Number", 7, 0);
+  for (const char* call : {"Registry.OpenKey", "Registry.QueryData"}) {
+    os.script.Clear();
+    os.script.FailNamed(call, 0, 5);
+    EXPECT_EQ(-3, GetRegistryDWord(kCurrentUserRoot, kKey, "Number", -3)) << call;
+    EXPECT_TRUE(os.script.HasFailed()) << call;
+  }
+  os.script.Clear();
+  EXPECT_EQ(7, GetRegistryDWord(kCurrentUserRoot, kKey, "Number", -3));
+}
+
 TEST_F(RegistryValuesTest, AWriteThatFailsIsIgnored) {
   for (const char* call : {"Registry.CreateKey", "Registry.SetValue"}) {
     os.script.Clear();

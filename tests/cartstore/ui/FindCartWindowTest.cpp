@@ -1,6 +1,5 @@
 // The search's window: its controls, the walk with events in it, the results, and how it closes.
 #include <QCheckBox>
-#include <QComboBox>
 #include <QDrag>
 #include <QHeaderView>
 #include <QLabel>
@@ -10,85 +9,12 @@
 #include <filesystem>
 
 #include "cartstore/Velmar_Cart_Routines.h"
-#include "cartstore/ui/FoundCartsView.h"
 #include "cartstore/ui/SearchAnimation.h"
-#include "cartstore/ui/frmFindCart.h"
-#include "common/ui/QtUserInterface.h"
-#include "tests/cartstore/ui/BrowserWindow.h"
+#include "common/ui/Icons.h"
+#include "tests/cartstore/ui/FindCartForm.h"
 
 namespace logchecker {
 namespace {
-
-// Lets events run, and something more at each cart.
-class WalkUi : public QtUserInterface {
- public:
-  void Yield() override {
-    ++carts;
-    if (atCart) atCart(carts);
-    QtUserInterface::Yield();
-  }
-
-  int carts = 0;
-  std::function<void(int)> atCart;
-};
-
-class FindCartFormTest : public WindowTest {
- protected:
-  void SetUp() override {
-    OpenStore(300);
-    PutCart(5, RecordOfLines("FIFTH CART", "WITH SPOONS", "AND FORKS"));
-    PutCart(50, RecordOfLines("FIFTIETH CART", "", ""));
-    PutCart(200, RecordOfLength(169.5F, "TWO HUNDREDTH CART"));
-    PutCart(299, RecordOfLength(191, "LAST BUT ONE CART"));
-    Open();
-  }
-  void TearDown() override { window.reset(); }
-
-  void Open(int32_t start = 1) {
-    if (!window) window = std::make_unique<frmFindCart>();
-    window->StartCart = start;
-    window->CallingBrowser = &browser;
-    window->show();
-    QApplication::setActiveWindow(window.get());
-    QApplication::processEvents();
-  }
-  template <typename Widget>
-  Widget* The(const char* name) {
-    return Control<Widget>(window.get(), name);
-  }
-  QComboBox* Text() { return The<QComboBox>("cmbSearchText"); }
-  QPushButton* Find() { return The<QPushButton>("cmdFind"); }
-  QPushButton* Stop() { return The<QPushButton>("cmdStop"); }
-  FoundCartsView* List() { return The<FoundCartsView>("lviewItems"); }
-  void FindText(const QString& text) {
-    Text()->setEditText(text);
-    Find()->click();
-  }
-  void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(window->focusWidget(), key, modifiers);
-  }
-  QString Cell(int row, FoundColumn column) {
-    return List()->model()->index(row, column).data().toString();
-  }
-  QStringList Numbers() {
-    QStringList numbers;
-    for (int row = 0; row < List()->model()->rowCount(); ++row) {
-      numbers.push_back(Cell(row, kFoundNumber));
-    }
-    return numbers;
-  }
-  int SelectedRow() {
-    const QModelIndexList rows = List()->selectionModel()->selectedRows(kFoundNumber);
-    return rows.isEmpty() ? -1 : rows.front().row();
-  }
-  QPoint Middle(int row) {
-    return List()->visualRect(List()->model()->index(row, kFoundLine1)).center();
-  }
-
-  RecordingBrowser browser;
-  WalkUi walk;
-  std::unique_ptr<frmFindCart> window;
-};
 
 TEST_F(FindCartFormTest, HasItsCaptions) {
   EXPECT_EQ(window->windowTitle(), "Find a cart on the Audiowall");
@@ -501,12 +427,14 @@ TEST_F(FindCartFormTest, ControlCharactersShowAsBlanks) {
   EXPECT_EQ(Cell(0, kFoundLine2), "<i>D</i>");
 }
 
-TEST_F(FindCartFormTest, ADragOfARowCarriesItsNumber) {
+TEST_F(FindCartFormTest, ADragOfARowCarriesItsNumberUnderThePictureOfACart) {
   FindText("cart");
   QString carried;
+  QImage shown;
   QTimer::singleShot(0, window.get(), [&] {
     for (const auto* drag : List()->findChildren<QDrag*>()) {
       carried = drag->mimeData()->text();
+      shown = drag->pixmap().toImage();
       QDrag::cancel();
     }
   });
@@ -524,6 +452,8 @@ TEST_F(FindCartFormTest, ADragOfARowCarriesItsNumber) {
   EXPECT_EQ(List()->Tag, "50");
   QApplication::processEvents();
   EXPECT_EQ(carried, "50");
+  EXPECT_FALSE(shown.isNull());
+  EXPECT_EQ(shown, IconNamed("cart").pixmap(32).toImage());
 }
 
 TEST_F(FindCartFormTest, WithoutItsFileTheAnimationIsMissing) {

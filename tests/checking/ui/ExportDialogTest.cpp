@@ -4,6 +4,7 @@
 #include <QListView>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 
 #include "checking/ExportFolder.h"
 #include "checking/ui/frmCheckBreaks.h"
@@ -11,6 +12,7 @@
 #include "common/SystemHelpers.h"
 #include "common/ui/QtUserInterface.h"
 #include "platform/HostPaths.h"
+#include "platform/Platform.h"
 #include "tests/checking/ui/ResultsTest.h"
 
 namespace logchecker {
@@ -144,12 +146,69 @@ TEST_F(ExportDialogTest, TwoSelectedRowsAreExportedAloneAndOneStandsForAll) {
             "\"08:01\",\"Not Found\",\":20.00\"\r\n");
 }
 
+// The user's documents folder is this one for as long as it lives.
+class DocumentsFolder {
+ public:
+  explicit DocumentsFolder(const TempFolder& folder) : before_(qgetenv("XDG_CONFIG_HOME")) {
+    folder.WriteFile("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + ToHostPath(folder.Path()) + "\"\n");
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(ToHostPath(folder.Path())));
+  }
+  DocumentsFolder(const DocumentsFolder&) = delete;
+  DocumentsFolder& operator=(const DocumentsFolder&) = delete;
+  ~DocumentsFolder() {
+    if (before_.isNull()) {
+      qunsetenv("XDG_CONFIG_HOME");
+    } else {
+      qputenv("XDG_CONFIG_HOME", before_);
+    }
+  }
+
+ private:
+  QByteArray before_;
+};
+
 TEST_F(ExportDialogTest, AnExportIntoTheDocumentsFolderLeavesNoValue) {
   Check();
-  const std::string documents = GetSpecialPath(kDocumentsFolder);
-  ASSERT_FALSE(documents.empty());
-  RememberExportFolder(documents + "/x.csv");
+  ASSERT_EQ(kNoError, Os().directories.MakeDirectory(Path("sub")));
+  SaveAs(ToHostPath(Path("sub/first")));
+  ASSERT_EQ(Stored(), ToHostPath(Path("sub")));
+  const TempFolder documents;
+  const DocumentsFolder documentsFolder(documents);
+  ASSERT_EQ(ToHostPath(GetSpecialPath(kDocumentsFolder)), ToHostPath(documents.Path()));
+  SaveAs(ToHostPath(documents.Path("report")));
+  EXPECT_TRUE(documents.Exists("report.CSV"));
   EXPECT_EQ(Stored(), "no value");
+}
+
+TEST_F(ExportDialogTest, TheFolderIsStoredBeforeTheFileIsOpened) {
+  ASSERT_EQ(kNoError, Os().directories.MakeDirectory(Path("sub")));
+  Check();
+  for (const char* call : {"Files.OpenForOutput", "Files.Write"}) {
+    RememberExportFolder(Path("x.csv"));
+    os.script.Clear();
+    os.script.FailNamed(call, 0, kDiskFull);
+    SaveAs(ToHostPath(Path("sub/report")));
+    EXPECT_EQ(Stored(), ToHostPath(Path("sub"))) << call;
+    const std::vector<std::string>& calls = os.script.Calls();
+    const auto stored = std::find(calls.begin(), calls.end(), "Registry.SetValue");
+    ASSERT_NE(stored, calls.end()) << call;
+    EXPECT_NE(std::find(stored, calls.end(), "Files.OpenForOutput"), calls.end()) << call;
+    EXPECT_EQ(std::find(calls.begin(), stored, "Files.OpenForOutput"), stored) << call;
+  }
+}
+
+TEST_F(ExportDialogTest, ASecondExportBeginsInTheFolderOfTheFirst) {
+  ASSERT_EQ(kNoError, Os().directories.MakeDirectory(Path("sub")));
+  Check();
+  SaveAs(ToHostPath(Path("sub/report")));
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    ASSERT_NE(files, nullptr);
+    EXPECT_EQ(files->directory().canonicalPath().toStdString(), ToHostPath(Path("sub")));
+    EXPECT_EQ(Name(dialog)->text(), "report.CSV");
+    dialog->reject();
+  });
+  Save();
 }
 
 TEST_F(ExportDialogTest, AFileThatCantBeOpenedIsSaidAndTheFolderStaysRemembered) {

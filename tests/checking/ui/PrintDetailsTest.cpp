@@ -1,17 +1,11 @@
-#include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFile>
-#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProcess>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
 
 #include "common/DatePicture.h"
 #include "platform/HostPaths.h"
 #include "tests/checking/ui/ResultsTest.h"
+#include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {
 namespace {
@@ -26,30 +20,81 @@ class PrintDetailsTest : public ResultsTest {
     ASSERT_NE(printer, nullptr);
     EXPECT_EQ(printer->windowTitle(), "Print Check Split Times");
     presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
-    auto* printers = Control<QComboBox>(printer, "printers");
-    printers->setCurrentIndex(printers->count() - 1);  // the PDF file
-    Control<QLineEdit>(printer, "filename")->setText(pdf);
-    Control<QSpinBox>(printer, "copies")->setValue(copies);
-    if (selection) {
-      Control<QRadioButton>(printer, *selection ? "printSelection" : "printAll")->setChecked(true);
-    }
-    printer->accept();
+    AnswerWithFile(printer, pdf, copies, selection);
   }
   void Print(int copies = 1, std::optional<bool> selection = std::nullopt) {
     QFile::remove(pdf);
     DialogScript script([&](QDialog* dialog) { AnswerDialog(dialog, copies, selection); });
     window->PrintDetails();
   }
-  QString Text() const {
-    QProcess reader;
-    reader.start("pdftotext", {"-layout", pdf, "-"});
-    reader.waitForFinished();
-    return QString::fromUtf8(reader.readAllStandardOutput());
+  // Past the dialog's own test of the folder.
+  void PrintPastTheDialogsTests(int copies) {
+    DialogScript script([&](QDialog* dialog) {
+      auto* printer = qobject_cast<QPrintDialog*>(dialog);
+      printer->printer()->setOutputFileName(pdf);
+      printer->printer()->setCopyCount(copies);
+      printer->done(QDialog::Accepted);
+    });
+    window->PrintDetails();
   }
+  QString Text() const { return TextOfFile(pdf); }
 
   QString pdf;
   bool presetSelection = false;
 };
+
+// Looks at the pointer of the results window whenever the run lets events run or says something.
+class PointerWatchingUi : public RecordingUi {
+ public:
+  explicit PointerWatchingUi(const QWidget& window) : window_(window) {}
+  void Yield() override {
+    RecordingUi::Yield();
+    atYield.push_back(window_.cursor().shape());
+  }
+  MessageAnswer Show(const Message& message) override {
+    atMessage.push_back(window_.cursor().shape());
+    return RecordingUi::Show(message);
+  }
+
+  std::vector<Qt::CursorShape> atYield;
+  std::vector<Qt::CursorShape> atMessage;
+
+ private:
+  const QWidget& window_;
+};
+
+using Shapes = std::vector<Qt::CursorShape>;
+
+TEST_F(PrintDetailsTest, TheWindowIsBusyForTheRunAndThenAsItWas) {
+  Check();
+  const PointerWatchingUi watching(*window);
+  Print(2);
+  EXPECT_EQ(watching.atYield, Shapes{Qt::WaitCursor}) << "once the dialog is gone";
+  EXPECT_EQ(watching.atMessage, Shapes{Qt::WaitCursor}) << "the message is a part of the run";
+  EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+  EXPECT_TRUE(watching.pointers.empty()) << "no other window is";
+}
+
+TEST_F(PrintDetailsTest, ARunThatFailsLeavesTheWindowAsItWas) {
+  Check();
+  pdf = QString::fromStdString(ToHostPath(folder().Path()) + "/missing/report.pdf");
+  const PointerWatchingUi watching(*window);
+  PrintPastTheDialogsTests(1);
+  EXPECT_EQ(watching.atMessage, Shapes{Qt::WaitCursor});
+  EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(PrintDetailsTest, ADialogThatIsCancelledMakesNothingBusy) {
+  Check();
+  const PointerWatchingUi watching(*window);
+  DialogScript script([&](QDialog* dialog) {
+    EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+    dialog->reject();
+  });
+  window->PrintDetails();
+  EXPECT_TRUE(watching.atYield.empty());
+  EXPECT_EQ(window->cursor().shape(), Qt::ArrowCursor);
+}
 
 TEST_F(PrintDetailsTest, TheReportHasTitleHeadingsAndRows) {
   Check();
@@ -111,14 +156,7 @@ TEST_F(PrintDetailsTest, ACancelledDialogEndsInSilence) {
 TEST_F(PrintDetailsTest, AFileThatCantBeWrittenIsSaidOnceWithItsReason) {
   Check();
   pdf = QString::fromStdString(ToHostPath(folder().Path()) + "/missing/report.pdf");
-  DialogScript script([&](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
-    // Past the dialog's own test of the folder.
-    printer->printer()->setOutputFileName(pdf);
-    printer->printer()->setCopyCount(3);
-    printer->done(QDialog::Accepted);
-  });
-  window->PrintDetails();
+  PrintPastTheDialogsTests(3);
   ASSERT_EQ(ui.messages.size(), 1U);
   EXPECT_EQ(ui.messages[0].text.find("There was a problem printing your Check Split Times Report "
                                      "on " +

@@ -1,5 +1,6 @@
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QMdiArea>
 #include <QProgressBar>
 #include <QToolButton>
@@ -109,6 +110,52 @@ TEST_F(ResultsTest, ASmallWindowSnapsBackHeightFirst) {
   EXPECT_EQ(window->width(), 200);
 }
 
+// The sizes that the window goes through, in the order in which it is told of them.
+class SizeRecorder : public QObject {
+ public:
+  explicit SizeRecorder(QWidget* window) { window->installEventFilter(this); }
+  std::vector<QSize> sizes;
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::Resize) {
+      sizes.push_back(static_cast<QResizeEvent*>(event)->size());
+    }
+    return QObject::eventFilter(watched, event);
+  }
+};
+
+TEST_F(ResultsTest, TheHeightIsSetAndTellsTheWindowBeforeTheWidthIs) {
+  Check();
+  const SizeRecorder recorder(window);
+  window->resize(150, 100);
+  EXPECT_EQ(recorder.sizes,
+            (std::vector<QSize>{QSize(150, 100), QSize(150, 134), QSize(200, 134)}));
+}
+
+TEST_F(ResultsTest, AMaximisedWindowIsNotHeldToTheLeastSizes) {
+  Check();
+  area.resize(190, 130);
+  window->showMaximized();
+  EXPECT_EQ(window->size(), area.viewport()->size());
+  EXPECT_LT(window->height(), 134);
+  EXPECT_LT(window->width(), 200);
+  EXPECT_EQ(List()->width(), window->widget()->width() - 16) << "and is laid out all the same";
+  window->showNormal();
+  EXPECT_GE(window->height(), 134);
+}
+
+TEST_F(ResultsTest, AMinimisedWindowIsLeftAsItIs) {
+  Check();
+  const QRect list = List()->geometry();
+  window->showMinimized();
+  EXPECT_LT(window->height(), 134);
+  EXPECT_EQ(List()->geometry(), list);
+  window->resize(120, window->height());
+  EXPECT_EQ(window->width(), 120);
+  EXPECT_EQ(List()->geometry(), list);
+}
+
 TEST_F(ResultsTest, WithOneSplitTheSecondColumnTakesAllTheRest) {
   gGeneralSettings.NumberActiveSplits = 1;
   Check();
@@ -122,6 +169,21 @@ TEST_F(ResultsTest, AClickLinesUpEverySplit) {
   ClickRow(1);
   EXPECT_EQ(gSplits(1).gridLog.TopRow(), 7) << "08:00";
   EXPECT_EQ(gSplits(2).gridLog.TopRow(), 4) << "08:01, the next there is";
+}
+
+TEST_F(ResultsTest, ADoubleClickDoesNothingMore) {
+  Check();
+  ClickRow(1);
+  gSplits(1).SelectBreakByTime(6 * 3600);
+  ASSERT_EQ(gSplits(1).gridLog.TopRow(), 1);
+  // The press that makes it a double one, which follows the click.
+  QTest::mouseDClick(List()->viewport(), Qt::LeftButton, {},
+                     List()->visualRect(List()->model()->index(1, 0)).center());
+  EXPECT_EQ(gSplits(1).gridLog.TopRow(), 1);
+  ASSERT_FALSE(window.isNull());
+  EXPECT_TRUE(window->isVisible());
+  EXPECT_EQ(List()->findChild<QLineEdit*>(), nullptr) << "nothing is edited";
+  EXPECT_EQ(List()->selectionModel()->selectedRows().size(), 1);
 }
 
 TEST_F(ResultsTest, EnterDoesWhatAClickDoes) {
@@ -183,6 +245,32 @@ TEST_F(ResultsTest, TheBarMovesForwardAndEndsAtZeroUnderTheHourglass) {
   EXPECT_EQ(ui.pointers.back(), MousePointer::kDefault);
   EXPECT_NE(std::find(ui.pointers.begin(), ui.pointers.end(), MousePointer::kHourglass),
             ui.pointers.end());
+}
+
+// Looks at the buttons of the window at each step of a check.
+class ButtonWatchingUi : public RecordingUi {
+ public:
+  ButtonWatchingUi(const QWidget* save, const QWidget* print) : save_(save), print_(print) {}
+  void ShowProgress(int32_t value, int32_t maximum) override {
+    RecordingUi::ShowProgress(value, maximum);
+    EXPECT_FALSE(save_->isEnabled());
+    EXPECT_FALSE(print_->isEnabled());
+  }
+
+ private:
+  const QWidget* save_;
+  const QWidget* print_;
+};
+
+TEST_F(ResultsTest, BothButtonsAreDisabledWhileACheckRuns) {
+  Check();
+  ASSERT_TRUE(Button("cmdSave")->isEnabled());
+  ASSERT_TRUE(Button("cmdPrint")->isEnabled());
+  const ButtonWatchingUi watching(Button("cmdSave"), Button("cmdPrint"));
+  window->CheckBreaks();
+  EXPECT_GT(watching.progress.size(), 1U);
+  EXPECT_TRUE(Button("cmdSave")->isEnabled());
+  EXPECT_TRUE(Button("cmdPrint")->isEnabled());
 }
 
 TEST_F(ResultsTest, TheWindowIsShownBeforeTheComparisonBegins) {

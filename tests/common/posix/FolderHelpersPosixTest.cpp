@@ -57,6 +57,24 @@ TEST_F(DrivesTest, TheBareDriveAndShareAreListedWithASeparator) {
   EXPECT_NE(std::string::npos, log.find("End DirectoryExists (False)"));
 }
 
+TEST_F(DrivesTest, AnEmptyPathIsNotListedAndLeavesTheTraceIndented) {
+  MakeFolder("drives");
+  MakeFolder("drives/c");
+  os.now = 46402.5;
+  gDebugLevel = -1;
+  gDebugLogName = "trace";
+  EXPECT_FALSE(DirectoryExists(""));
+  EXPECT_EQ(1, gDebugIndent);
+  EXPECT_EQ(0, os.script.CountOf("Directories.FirstName"));
+  EXPECT_FALSE(DirectoryExists("C:\\x"));
+  EXPECT_EQ(1, gDebugIndent) << "any other path goes one deeper and comes back";
+  EXPECT_EQ(
+      "12:00:00 Start DirectoryExists\r\n12:00:00     Start DirectoryExists\r\n"
+      "12:00:00         Call Dir(C:\\x, vbDirectory)\r\n"
+      "12:00:00     End DirectoryExists (False)\r\n",
+      folder().ReadFile("drives/c/trace.20270115.log"));
+}
+
 TEST_F(DrivesTest, TheDebugLogWritesWhatItsLevelLets) {
   MakeFolder("drives");
   MakeFolder("drives/c");

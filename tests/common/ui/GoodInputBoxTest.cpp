@@ -59,17 +59,50 @@ TEST_F(GoodInputBoxTest, EachModeShowsItsControlAndAnswersWithIt) {
               {&frmGoodInputBox::UseComboList, "comboList", "pear"},
               {&frmGoodInputBox::UseComboSortedList, "comboSortedList", "apple"},
               {&frmGoodInputBox::UseListMulti, "listMulti", ""},
+              {&frmGoodInputBox::UseListMultiNonSel, "listMultiNonSel", "2"},
               {&frmGoodInputBox::UseText, "Text1", "typed"}};
   for (const auto& row : rows) {
     box.Unload();
     Show(row.mode);
     if (row.mode == &frmGoodInputBox::UseText) box.SetText("typed");
+    if (row.mode == &frmGoodInputBox::UseListMultiNonSel) {
+      Part<QListWidget>("listMultiNonSel")->setCurrentRow(1);
+    }
     EXPECT_EQ(Seen(), QStringList(row.control));
     EXPECT_TRUE(Part<QWidget>(row.control)->hasFocus()) << row.control;
     Press("cmdOK");
     EXPECT_EQ(box.CancelL(), "0");
     EXPECT_EQ(box.Tag, row.answer) << row.control;
     EXPECT_FALSE(box.isVisible());
+  }
+}
+
+TEST_F(GoodInputBoxTest, TheFocusGoesToTheControlOnlyWhereItIsEnabled) {
+  const struct {
+    bool frmGoodInputBox::*mode;
+    const char* control;
+  } rows[] = {{&frmGoodInputBox::UseComboCombo, "comboCombo"},
+              {&frmGoodInputBox::UseComboList, "comboList"},
+              {&frmGoodInputBox::UseComboSortedList, "comboSortedList"},
+              {&frmGoodInputBox::UseListMulti, "listMulti"},
+              {&frmGoodInputBox::UseListMultiNonSel, "listMultiNonSel"},
+              {&frmGoodInputBox::UseText, "Text1"}};
+  for (const auto& row : rows) {
+    box.hide();
+    box.Unload();
+    auto* control = Part<QWidget>(row.control);
+    control->setEnabled(false);
+    Show(row.mode);
+    EXPECT_EQ(Seen(), QStringList(row.control));
+    EXPECT_FALSE(control->isEnabled()) << row.control;
+    EXPECT_FALSE(control->hasFocus()) << row.control;
+    control->setEnabled(true);
+    Part<QWidget>("cmdOK")->setFocus();
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QApplication::setActiveWindow(&box);
+    EXPECT_TRUE(control->hasFocus()) << row.control;
   }
 }
 

@@ -19,6 +19,30 @@ int32_t Day(int year, unsigned month, unsigned day) {
   return DayOfDate(std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day));
 }
 
+// For as long as it lives no two colours of the desktop are the same.
+class DistinctColours {
+ public:
+  DistinctColours() : before_(QApplication::palette()) {
+    QPalette distinct = before_;
+    int grey = 0;
+    for (const auto role : {QPalette::Window, QPalette::WindowText, QPalette::Base, QPalette::Text,
+                            QPalette::Button, QPalette::ButtonText, QPalette::Highlight,
+                            QPalette::HighlightedText, QPalette::PlaceholderText}) {
+      grey += 20;
+      distinct.setColor(role, QColor(grey, grey, grey));
+    }
+    QApplication::setPalette(distinct);
+  }
+  DistinctColours(const DistinctColours&) = delete;
+  DistinctColours& operator=(const DistinctColours&) = delete;
+  ~DistinctColours() { QApplication::setPalette(before_); }
+
+  static QColor Of(QPalette::ColorRole role) { return QApplication::palette().color(role); }
+
+ private:
+  QPalette before_;
+};
+
 class SelectHourTest : public WindowTest {
  protected:
   SelectHourTest() { ui.pointer = MousePointer::kDefault; }
@@ -102,6 +126,19 @@ TEST_F(SelectHourTest, MinutesOfTheTagShowWhereTheyAreNotZero) {
 TEST_F(SelectHourTest, MinutesAreLockedUnlessTheyAreAskedFor) {
   Open("4640200");
   EXPECT_TRUE(Minutes()->isReadOnly());
+}
+
+TEST_F(SelectHourTest, TheMinutesHaveTheColoursOfABoxOnlyWhereTheyAreAskedFor) {
+  const DistinctColours desktop;
+  for (const bool asked : {false, true, false}) {
+    picker.AskMinutes = asked;
+    Open("4640200");
+    const QPalette colours = Minutes()->palette();
+    EXPECT_EQ(colours.color(QPalette::Base), desktop.Of(asked ? QPalette::Base : QPalette::Button));
+    EXPECT_EQ(colours.color(QPalette::Text),
+              desktop.Of(asked ? QPalette::Text : QPalette::ButtonText));
+    Press("CancelB");
+  }
 }
 
 TEST_F(SelectHourTest, OkGivesFiveDigitsAndTwoOfTheHour) {
@@ -251,12 +288,13 @@ TEST_F(SelectHourTest, TheUpperArrowOfTheYearRaisesItWithin1980And2999) {
 TEST_F(SelectHourTest, TheYearIsHighlightedWhileItsScrollBarHasTheFocus) {
   Open("4640200");
   auto* year = Control<QLabel>(&picker, "lblYear");
-  const QPalette desktop = QApplication::palette();
+  const DistinctColours desktop;
   Years()->setFocus();
-  EXPECT_EQ(year->palette().color(QPalette::Window), desktop.color(QPalette::Highlight));
-  EXPECT_EQ(year->palette().color(QPalette::WindowText), desktop.color(QPalette::HighlightedText));
+  EXPECT_EQ(year->palette().color(QPalette::Window), desktop.Of(QPalette::Highlight));
+  EXPECT_EQ(year->palette().color(QPalette::WindowText), desktop.Of(QPalette::HighlightedText));
   Days()->setFocus();
-  EXPECT_EQ(year->palette().color(QPalette::Window), desktop.color(QPalette::Button));
+  EXPECT_EQ(year->palette().color(QPalette::Window), desktop.Of(QPalette::Button));
+  EXPECT_EQ(year->palette().color(QPalette::WindowText), desktop.Of(QPalette::ButtonText));
 }
 
 TEST_F(SelectHourTest, TheHourTakesTypedDigitsAlone) {
@@ -321,12 +359,14 @@ TEST_F(SelectHourTest, TheLegendHasTheDialsColours) {
 }
 
 TEST_F(SelectHourTest, DisableTimeTurnsTheTimesSideOff) {
+  const DistinctColours desktop;
   picker.DisableTime();
   for (const char* name :
        {"TimeP", "lblAM", "lblPM", "lbl24Hour", "lblTime", "txtMinutes", "TimeT"}) {
     EXPECT_FALSE(Control<QWidget>(&picker, name)->isEnabled()) << name;
   }
   EXPECT_TRUE(Days()->isEnabled());
+  EXPECT_EQ(Hour()->palette().color(QPalette::Base), desktop.Of(QPalette::Button));
 }
 
 TEST_F(SelectHourTest, ATagThatIsNoDateReadsAsDayZero) {
