@@ -146,11 +146,12 @@ TEST_F(ExportDialogTest, TwoSelectedRowsAreExportedAloneAndOneStandsForAll) {
             "\"08:01\",\"Not Found\",\":20.00\"\r\n");
 }
 
-// The user's documents folder is this one for as long as it lives.
+// The user's documents folder is this one for as long as it lives, as its file may write it.
 class DocumentsFolder {
  public:
   explicit DocumentsFolder(const TempFolder& folder) : before_(qgetenv("XDG_CONFIG_HOME")) {
-    folder.WriteFile("user-dirs.dirs", "XDG_DOCUMENTS_DIR=\"" + ToHostPath(folder.Path()) + "\"\n");
+    folder.WriteFile("user-dirs.dirs",
+                     "XDG_DOCUMENTS_DIR=\"" + ToHostPath(folder.Path()) + "/\"\n");
     qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(ToHostPath(folder.Path())));
   }
   DocumentsFolder(const DocumentsFolder&) = delete;

@@ -6,7 +6,10 @@
 #include <QToolButton>
 #include <QTreeView>
 
+#include "checking/ui/ResultsView.h"
 #include "checking/ui/frmCheckBreaks.h"
+#include "common/Numbers.h"
+#include "common/ui/QtUserInterface.h"
 #include "common/ui/Twips.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
@@ -101,6 +104,25 @@ TEST_F(ResultsTest, TheFirstColumnKeepsTheWidthThatItHas) {
   List()->setColumnWidth(0, 90);
   window->resize(700, 400);
   EXPECT_EQ(List()->columnWidth(0), 90);
+}
+
+TEST_F(ResultsTest, AWidthThatTheUserGivesAColumnIsTheListsOwn) {
+  ListView list;
+  list.ColumnHeaders = {{"Time", 800}, {"North", 1400}, {"South", 1400}};
+  ResultsView view(list);
+  const auto share = [&](int width) {
+    return ToInt32((ToTwips(view.width()) - 90 - 255 - width) / 2.0);
+  };
+  view.resize(300, 200);
+  view.ShareColumns(false);
+  EXPECT_EQ(list.ColumnHeaders[0].width, 800) << "as it is given, whatever pixels make of it";
+  EXPECT_EQ(list.ColumnHeaders[1].width, share(800));
+  view.header()->resizeSection(1, 150);
+  EXPECT_EQ(list.ColumnHeaders[1].width, ToTwips(150));
+  view.header()->resizeSection(0, 90);
+  view.ShareColumns(true);
+  EXPECT_EQ(list.ColumnHeaders[0].width, ToTwips(90));
+  EXPECT_EQ(list.ColumnHeaders[2].width, share(ToTwips(90)));
 }
 
 TEST_F(ResultsTest, ASmallWindowSnapsBackHeightFirst) {
@@ -202,6 +224,22 @@ TEST_F(ResultsTest, AClickWhereNoRowWasEverGoneToLeavesTheSplitsAlone) {
   EXPECT_EQ(gSplits(1).gridLog.TopRow(), 4);
 }
 
+TEST_F(ResultsTest, AFocusThatSelectsNoRowLeavesTheSplitsAlone) {
+  Check();
+  gSplits(1).SelectBreakByTime(7 * 3600);
+  Part("cmdSave")->setFocus();
+  List()->setFocus(Qt::TabFocusReason);
+  ASSERT_TRUE(List()->currentIndex().isValid()) << "the toolkit goes to the first row";
+  QTest::mouseClick(List()->viewport(), Qt::LeftButton, {},
+                    QPoint(10, List()->viewport()->height() - 5));
+  QTest::keyClick(List(), Qt::Key_Return);
+  EXPECT_EQ(gSplits(1).gridLog.TopRow(), 4);
+  List()->selectionModel()->select(List()->model()->index(1, 0),
+                                   QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  QTest::keyClick(List(), Qt::Key_Return);
+  EXPECT_EQ(gSplits(1).gridLog.TopRow(), 7) << "the row that is selected";
+}
+
 TEST_F(ResultsTest, TheTimeIsLookedUpAnewInAChangedLog) {
   Check();
   WriteLog(1, kDay, Line("06:30", 11) + "\r\n" + Line("09:00", 11) + "\r\n");
@@ -245,6 +283,20 @@ TEST_F(ResultsTest, TheBarMovesForwardAndEndsAtZeroUnderTheHourglass) {
   EXPECT_EQ(ui.pointers.back(), MousePointer::kDefault);
   EXPECT_NE(std::find(ui.pointers.begin(), ui.pointers.end(), MousePointer::kHourglass),
             ui.pointers.end());
+}
+
+TEST_F(ResultsTest, TheWindowsBarIsEmptyAfterAWalkOfOneStep) {
+  std::string log;
+  for (int i = 0; i < 60; ++i) log += Line("00:00", 11) + "\r\n";
+  for (int16_t n = 1; n <= 2; ++n) {
+    WriteLog(n, kDay, log);
+    gSplits(n).LoadLogFile();
+  }
+  QtUserInterface real;
+  Check();
+  const auto* bar = Control<QProgressBar>(window, "ProgressBar1");
+  EXPECT_GT(bar->maximum(), 100);
+  EXPECT_EQ(bar->value(), 0);
 }
 
 // Looks at the buttons of the window at each step of a check.

@@ -208,6 +208,52 @@ TEST_F(GoodInputBoxTest, ThePointerIsTheDefaultInsideAndTheSavedOneOutside) {
   EXPECT_EQ(ui.pointer, MousePointer::kHourglass);
 }
 
+TEST_F(GoodInputBoxTest, ThePointerGoesBackWhenTheBoxGoes) {
+  box.SavedPointer = MousePointer::kHourglass;
+  Show(&frmGoodInputBox::UseText);
+  EXPECT_EQ(ui.pointer, MousePointer::kDefault);
+  Press("cmdOK");
+  EXPECT_EQ(ui.pointer, MousePointer::kHourglass);
+}
+
+TEST_F(GoodInputBoxTest, WhatIsTypedIsTheAnswerAndNotAnItemThatBeginsWithIt) {
+  Show(&frmGoodInputBox::UseComboCombo);
+  auto* combo = Part<QComboBox>("comboCombo");
+  combo->setEditText("");
+  QTest::keyClicks(combo, "pl");
+  Press("cmdOK");
+  EXPECT_EQ(box.Tag, "pl");
+}
+
+TEST_F(GoodInputBoxTest, TheTextWithAListIsSelectedWheneverItGetsTheFocus) {
+  box.UseText = false;
+  box.UseComboCombo = true;
+  box.SetText("own");
+  Show(&frmGoodInputBox::UseComboCombo);
+  auto* combo = Part<QComboBox>("comboCombo");
+  combo->setEditText("own");
+  Part<QWidget>("cmdOK")->setFocus();
+  combo->lineEdit()->deselect();
+  combo->setFocus(Qt::MouseFocusReason);
+  QApplication::processEvents();
+  EXPECT_EQ(combo->lineEdit()->selectedText(), "own");
+}
+
+TEST_F(GoodInputBoxTest, ADoubleClickBelowTheRowsIsOkToo) {
+  Show(&frmGoodInputBox::UseListMultiNonSel);
+  auto* list = Part<QListWidget>("listMultiNonSel");
+  list->setCurrentRow(1);
+  QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, list->viewport()->rect().bottomLeft());
+  EXPECT_EQ(box.Tag, "2");
+  EXPECT_FALSE(box.isVisible());
+}
+
+TEST_F(GoodInputBoxTest, AnAmpersandOfTheQuestionIsShown) {
+  box.SetCaption("Tom & Sons?");
+  EXPECT_EQ(Part<QLabel>("lblCaption")->text(), "Tom && Sons?");
+  EXPECT_EQ(Part<QWidget>("Text1")->accessibleName(), "Tom & Sons?");
+}
+
 TEST_F(GoodInputBoxTest, EverythingHasAName) {
   for (auto mode : {&frmGoodInputBox::UseComboCombo, &frmGoodInputBox::UseComboList,
                     &frmGoodInputBox::UseListMulti, &frmGoodInputBox::UseText}) {
@@ -266,6 +312,15 @@ TEST_F(GoodInputBoxTest, TheFrontGivesNothingOnCancelAndOnTheCloseBox) {
   {
     DialogScript script([](QDialog* dialog) { dialog->reject(); });
     EXPECT_EQ(AskForRows(nullptr, "Name?", kItems), std::nullopt);
+  }
+  {
+    DialogScript script([](QDialog* dialog) {
+      Control<QListWidget>(dialog, "listMultiNonSel")->clearSelection();
+      Control<QPushButton>(dialog, "cmdOK")->click();
+      dialog->close();
+    });
+    EXPECT_EQ(AskForRow(nullptr, "Which?", kItems), std::nullopt) << "OK without a row before";
+    EXPECT_EQ(ui.messages.size(), 1U);
   }
 }
 

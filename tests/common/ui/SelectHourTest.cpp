@@ -164,12 +164,42 @@ TEST_F(SelectHourTest, CancelEscapeAndTheCloseBoxGiveAnEmptyTagAndKeepTheWindow)
     Open("4640207:05");
     if (way == 0) Press("CancelB");
     if (way == 1) QTest::keyClick(&picker, Qt::Key_Escape);
-    if (way == 2) picker.close();
+    if (way == 2) CloseByUser(&picker);
     EXPECT_EQ(picker.Tag, "") << way;
     EXPECT_FALSE(picker.isVisible()) << way;
     EXPECT_FALSE(picker.AskMinutes) << way;
     EXPECT_EQ(Minutes()->text(), "00") << way;
   }
+}
+
+TEST_F(SelectHourTest, OnlyTheUsersCloseIsRefused) {
+  Open("4640207:05");
+  EXPECT_FALSE(CloseByUser(&picker));
+  Open("4640207:05");
+  EXPECT_TRUE(picker.close());
+  Open("4640500:00");
+  EXPECT_EQ(MarkedText(), "18") << "the next showing begins anew";
+}
+
+TEST_F(SelectHourTest, AtAFullHourThePresentOneIsTheOneBefore) {
+  for (int hour = 1; hour < 24; ++hour) {
+    os.now = kDay + hour / 24.0;
+    Open("");
+    EXPECT_EQ(Control<QLineEdit>(&picker, "TimeT")->text(), QString::number(hour - 1));
+    EXPECT_EQ(MarkedText(), "15") << hour;
+    Press("CancelB");
+  }
+}
+
+// A platform's word that a window is active can outlive the window's showing.
+TEST_F(SelectHourTest, AWindowThatGoesDoesNotBeginAShowing) {
+  Open("4640207:05");
+  Press("CancelB");
+  QApplication::setActiveWindow(&picker);
+  ASSERT_TRUE(picker.isActiveWindow());
+  ASSERT_FALSE(picker.isVisible());
+  Open("4640500:00");
+  EXPECT_EQ(MarkedText(), "18");
 }
 
 TEST_F(SelectHourTest, TakesItsTagOnceAShowing) {

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
+#include <QSignalSpy>
 
 #include "common/VersionData.h"
 #include "shell/ui/frmSplash.h"
@@ -86,7 +87,43 @@ TEST_F(SplashTest, FloatingMovesTheWindowToTheTopLayerAndBackWithoutMovingIt) {
   EXPECT_EQ(splash.geometry(), place);
 }
 
+TEST_F(SplashTest, TheUserCannotCloseIt) {
+  frmSplash splash;
+  splash.show();
+  CloseByUser(&splash);
+  QTest::keyClick(&splash, Qt::Key_Escape);
+  EXPECT_TRUE(splash.isVisible());
+  splash.close();
+  EXPECT_FALSE(splash.isVisible());
+}
+
+TEST_F(SplashTest, AFloatingWindowStaysOnTopAsAboutBox) {
+  auto* splash = new frmSplash;
+  splash->SetFloating(-1);
+  splash->ShowAsAboutBox();
+  EXPECT_TRUE(splash->windowFlags().testFlag(Qt::WindowStaysOnTopHint));
+  splash->close();
+}
+
 using AboutTest = MainTest;
+
+TEST_F(AboutTest, EscapeAndTheUsersCloseAreAsItsButton) {
+  ASSERT_TRUE(Start());
+  for (const bool escape : {true, false}) {
+    Entry("mnuAbout")->trigger();
+    QPointer<frmSplash> about = main->findChild<frmSplash*>();
+    ASSERT_FALSE(about.isNull());
+    QSignalSpy pressed(Control<QPushButton>(about, "cmdOK"), &QPushButton::clicked);
+    if (escape) {
+      QTest::keyClick(about, Qt::Key_Escape);
+    } else {
+      CloseByUser(about);
+    }
+    EXPECT_EQ(pressed.count(), 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(about.isNull());
+  }
+}
 
 TEST_F(AboutTest, AboutStaysUntilOkIsPressedAndIsNotModal) {
   ASSERT_TRUE(Start());

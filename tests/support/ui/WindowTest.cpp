@@ -1,7 +1,9 @@
 #include "tests/support/ui/WindowTest.h"
 
+#include <qtestspontaneevent.h>
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QCloseEvent>
 
 namespace logchecker {
 
@@ -88,6 +90,13 @@ void ExpectNamed(QAccessibleInterface* part, int depth) {
 }
 
 }  // namespace
+
+bool CloseByUser(QWidget* window) {
+  QCloseEvent event;
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  QApplication::instance()->notify(window, &event);
+  return event.isAccepted();
+}
 
 void ExpectEverythingNamed(QWidget* window) {
   QAccessibleInterface* top = QAccessible::queryAccessibleInterface(window);

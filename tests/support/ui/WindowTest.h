@@ -67,6 +67,9 @@ class DialogScript : public QObject {
   QStringList texts_;
 };
 
+// Asks a window to close as the user does, by its frame. Whether it lets itself be closed.
+bool CloseByUser(QWidget* window);
+
 // Fails for each control in the window that can have the focus and has no name for those who can't
 // see it.
 void ExpectEverythingNamed(QWidget* window);
