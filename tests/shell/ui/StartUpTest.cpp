@@ -174,6 +174,7 @@ TEST_F(StartUpTest, AConfirmedFirstRunWritesSplitOneAndGoesOnWithIt) {
   EXPECT_EQ(gSplitSettings[0].SplitName, "Larkfield");
   EXPECT_EQ(gSplitSettings[1].SplitName, "Split 2");
   EXPECT_EQ(gGeneralSettings.NumberActiveSplits, 2);
+  EXPECT_FALSE(SplashIsLoaded());
 }
 
 TEST_F(StartUpTest, TheFirstRunTestLooksForTheFixedNameWhateverTheSwitchSays) {
