@@ -73,6 +73,7 @@ TEST_F(SplitWindowSizeTest, AMinimisedWindowIsLeftAlone) {
   ASSERT_TRUE(window->isMinimized());
   EXPECT_LT(window->height(), kLeastHeight);
   const QSize minimised = window->size() + QSize(10, 0);
+  window->widget()->resize(300, 50);
   SizeRecorder recorder(window);
   window->resize(minimised);
   EXPECT_EQ(recorder.sizes, std::vector<QSize>({minimised}));
