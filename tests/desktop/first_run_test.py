@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """A station that has nothing is set up from the program's own dialogs, by keys alone; a second start
-asks nothing; and the two ways out end the program."""
+asks nothing; a switch leads the settings into a file of their own; and the two ways out end the
+program."""
 
 import pathlib
 import sys
@@ -71,6 +72,24 @@ def start_again(desk, config):
     assert b"SplitName2" not in settings, settings
 
 
+def use_switch(desk, config):
+    folder = config / "velmar"
+    before = (folder / "VELKLT.INI").read_bytes()
+    program = desk.start(BIN / "logchecker", "/LI:OTHER.INI", config=config)
+    frame = desk.window(FRAME, "main window of the start with a switch")
+    desk.keys("alt+s", "g")
+    dialog = desk.window("^KLT Manager Settings$")
+    desk.keys("Return")
+    desk.gone(dialog)
+    desk.keys("alt+f", "x")
+    desk.gone(frame)
+    assert program.wait(timeout=30) == 0, program.stderr.read()
+    settings = (folder / ".INI").read_bytes()
+    assert b"NumberActiveSplits=2\r\n" in settings, settings
+    assert (folder / "VELKLT.INI").read_bytes() == before
+    assert not (folder / "OTHER.INI").exists()
+
+
 def cancel_settings(desk, config):
     program = desk.start(BIN / "logchecker", config=config)
     desk.window(SPLIT, "settings of split 1")
@@ -101,6 +120,7 @@ def main():
         config = desk.folder / "config"
         set_up(desk, config)
         start_again(desk, config)
+        use_switch(desk, config)
         cancel_settings(desk, desk.folder / "cancelled")
         cancel_store(desk, desk.folder / "without-store")
         print("a station is set up")

@@ -87,6 +87,14 @@ TEST_F(LoadLogFileTest, ACartWithoutAudioIsRedAndAddsNothing) {
   EXPECT_EQ("--:--", grid.Text(8, kLengthColumn));
 }
 
+TEST_F(LoadLogFileTest, ABlankCartFieldIsACartWithoutAudio) {
+  const LogGrid& grid =
+      Load(Line("06:00", 1) + "06:01:00|NTH           NO CART\r\n" + Line("06:02", 2) + "\n");
+  EXPECT_EQ("|NO CART||0|--:--|34|red", Row(grid, 2));
+  EXPECT_EQ(" 1:30.00", grid.Text(4, kLengthColumn));
+  EXPECT_TRUE(ui.messages.empty());
+}
+
 TEST_F(LoadLogFileTest, AStoreThatCannotBeReadIsCartsWithoutAudio) {
   os.script.FailNamed("Files.GetRecord", 0, kDeviceIoError);
   const LogGrid& grid = Load(Line("06:00", 1) + Line("06:01", 2) + "\n" + Line("07:00", 1));

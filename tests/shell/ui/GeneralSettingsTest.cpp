@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QClipboard>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -70,6 +71,9 @@ TEST_F(GeneralSettingsTest, ANumberOfSplitsOutOfRangeIsSaidAndNothingChanges) {
   for (const char* text : {"", "0", "11", "-1", "10.5", "x"}) {
     Splits()->setText(text);
     Seconds()->setText("9");
+    Box("chkDisplayCheckHH")->setChecked(false);
+    Box("chkDisplayBreakHH")->setChecked(false);
+    Box("chkDisplayAdvertHH")->setChecked(true);
     Press("cmdOK");
     EXPECT_TRUE(dialog->isVisible()) << text;
     ASSERT_FALSE(ui.messages.empty()) << text;
@@ -79,6 +83,9 @@ TEST_F(GeneralSettingsTest, ANumberOfSplitsOutOfRangeIsSaidAndNothingChanges) {
   EXPECT_EQ(ui.messages.size(), 6U);
   EXPECT_EQ(gGeneralSettings.NumberActiveSplits, 2);
   EXPECT_EQ(gGeneralSettings.BreakDifferenceMS, 500);
+  EXPECT_TRUE(gGeneralSettings.DisplayCheckHH);
+  EXPECT_TRUE(gGeneralSettings.DisplayBreakHH);
+  EXPECT_FALSE(gGeneralSettings.DisplayAdvertHH);
   EXPECT_EQ(folder().ReadFile("VELKLT.INI"), kFile);
 }
 
@@ -170,6 +177,19 @@ TEST_F(GeneralSettingsTest, ControlsHaveTheirCaptions) {
   EXPECT_EQ(plain("chkDisplayCheckHH"), "Show Check Break length using hundredths of seconds");
   EXPECT_EQ(plain("chkDisplayBreakHH"), "Show overall Break length using hundredths of seconds");
   EXPECT_EQ(plain("chkDisplayAdvertHH"), "Show each Advert length using hundredths of seconds");
+  EXPECT_EQ(plain("cmdOK"), "OK");
+  EXPECT_EQ(plain("cmdCancel"), "Cancel");
+}
+
+TEST_F(GeneralSettingsTest, NumbersAndCheckBoxesStandInFramesUnderTheirHeadings) {
+  const auto* general = Control<QGroupBox>(dialog.get(), "fraGeneral");
+  const auto* display = Control<QGroupBox>(dialog.get(), "fraDisplayConfig");
+  EXPECT_EQ(general->title(), "General Settings:");
+  EXPECT_EQ(display->title(), "Display Settings:");
+  for (const QLineEdit* box : {Splits(), Seconds()}) EXPECT_TRUE(general->isAncestorOf(box));
+  for (const char* name : {"chkDisplayCheckHH", "chkDisplayBreakHH", "chkDisplayAdvertHH"}) {
+    EXPECT_TRUE(display->isAncestorOf(Box(name))) << name;
+  }
 }
 
 }  // namespace

@@ -249,6 +249,16 @@ TEST_F(MainWindowTest, TheFrameIsNeverLowerThan3000Twips) {
   EXPECT_EQ(main->frameGeometry().height(), ToPixels(3000));
 }
 
+TEST_F(MainWindowTest, AMinimisedFrameHasNoLeastHeight) {
+  ASSERT_TRUE(Start());
+  main->showMinimized();
+  main->resize(700, 160);
+  EXPECT_EQ(main->height(), 160);
+  main->showNormal();
+  main->resize(700, 161);
+  EXPECT_EQ(main->height(), ToPixels(3000));
+}
+
 TEST_F(MainWindowTest, TheKeyboardReachesToolbarAndWindows) {
   ASSERT_TRUE(Start());
   Area()->setActiveSubWindow(&Window(2));

@@ -114,6 +114,36 @@ TEST_F(SettingsFlowTest, ASplitsNameChangesInCaptionAndMenuAtOnce) {
   EXPECT_TRUE(ui.messages.empty()) << "the settings take effect at once";
 }
 
+TEST_F(SettingsFlowTest, ASplitsNewNameLeavesEveryWindowWhereItIs) {
+  Window(1).move(77, 55);
+  Window(2).setGeometry(120, 33, 300, 280);
+  const QRect places[] = {Window(1).geometry(), Window(2).geometry(), Window(3).geometry()};
+  DialogScript script([](QDialog* dialog) {
+    Box(dialog, "txtSplitName")->setText("Coast");
+    PressIn(dialog, "cmdOK");
+  });
+  Area()->setActiveSubWindow(&Window(3));
+  Entry("mnuLogSettings2")->trigger();
+  EXPECT_EQ(Window(2).windowTitle(), "Coast");
+  for (int16_t n = 1; n <= 3; ++n) EXPECT_EQ(Window(n).geometry(), places[n - 1]) << n;
+  EXPECT_EQ(Area()->activeSubWindow(), &Window(3));
+}
+
+TEST_F(SettingsFlowTest, AfterOkTheLogIsLoadedByTheNewSettings) {
+  Os().directories.MakeDirectory(Path("elsewhere"));
+  folder().WriteFile("elsewhere/270115.TXT", Line("09:00", 11) + "\r\n");
+  DialogScript script([this](QDialog* dialog) {
+    Box(dialog, "txtSourceDirectory")->setText(QString::fromStdString(Path("elsewhere")));
+    Box(dialog, "txtFileExtension")->setText("TXT");
+    PressIn(dialog, "cmdOK");
+  });
+  Entry("mnuLogSettings2")->trigger();
+  EXPECT_EQ(SettingsOf(2).Extension, "TXT");
+  EXPECT_EQ(gSplits(2).gridLog.Rows(), 4);
+  EXPECT_EQ(gSplits(2).gridLog.Text(1, kTimeColumn), "09:00");
+  EXPECT_EQ(gSplits(1).gridLog.Rows(), 10) << "the others stay as they are";
+}
+
 TEST_F(SettingsFlowTest, AfterCancelTheSplitIsReadAndLoadedAllTheSame) {
   gSplits(2).gridLog.SetRows(1);
   WriteSetting("SplitName2", "From the file");

@@ -11,6 +11,20 @@ namespace {
 
 class StartUpTest : public MainTest {
  protected:
+  // Whether there is a splash at all.
+  static bool SplashIsLoaded() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (qobject_cast<frmSplash*>(window) != nullptr) return true;
+    }
+    return false;
+  }
+  static bool SplashStands() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (qobject_cast<frmSplash*>(window) != nullptr && window->isVisible()) return true;
+    }
+    return false;
+  }
+
   // Puts down what the splash says, and whether the main window is seen, at each yield.
   class Watcher : public UserInterface {
    public:
@@ -18,7 +32,10 @@ class StartUpTest : public MainTest {
         : test_(test), inner_(inner), before_(UseUserInterface(*this)) {}
     ~Watcher() override { UseUserInterface(before_); }
 
-    MessageAnswer Show(const Message& message) override { return inner_.Show(message); }
+    MessageAnswer Show(const Message& message) override {
+      splashUnderMessages.push_back(SplashStands());
+      return inner_.Show(message);
+    }
     void SetMousePointer(MousePointer pointer) override { inner_.SetMousePointer(pointer); }
     MousePointer CurrentMousePointer() override { return inner_.CurrentMousePointer(); }
     void ShowProgress(int32_t value, int32_t maximum) override {
@@ -38,6 +55,7 @@ class StartUpTest : public MainTest {
 
     QStringList said;
     bool mainSeen = false;
+    std::vector<bool> splashUnderMessages;
 
    private:
     StartUpTest& test_;
@@ -54,10 +72,7 @@ TEST_F(StartUpTest, TheSplashSaysWhatIsDoneAndTheMainWindowStaysHiddenUntilTheSt
   EXPECT_FALSE(watcher.mainSeen);
   EXPECT_TRUE(main->isVisible());
   EXPECT_TRUE(main->StartupComplete);
-  EXPECT_EQ(main->findChild<frmSplash*>(), nullptr);
-  for (QWidget* window : QApplication::topLevelWidgets()) {
-    EXPECT_EQ(qobject_cast<frmSplash*>(window), nullptr) << "the splash is unloaded";
-  }
+  EXPECT_FALSE(SplashIsLoaded()) << "the splash is unloaded";
 }
 
 TEST_F(StartUpTest, TomorrowIsLoadedIntoAllTenSplits) {
@@ -124,6 +139,28 @@ TEST_F(StartUpTest, WithoutSettingsACancelledFirstRunEndsWithItsMessage) {
   EXPECT_EQ(ui.messages[0].icon, MessageIcon::kCritical);
 }
 
+TEST_F(StartUpTest, TheSplashStandsUnderTheFirstRunAndItsMessageAndIsGoneAfterIt) {
+  folder().WriteFile("VELKLT.INI", "");
+  Watcher watcher(*this, ui);
+  DialogScript script([](QDialog* dialog) {
+    EXPECT_TRUE(SplashStands());
+    Control<QPushButton>(dialog, "cmdCancel")->click();
+  });
+  EXPECT_FALSE(Start());
+  EXPECT_EQ(watcher.splashUnderMessages, std::vector<bool>({true}));
+  EXPECT_FALSE(SplashIsLoaded());
+}
+
+TEST_F(StartUpTest, TheSplashIsGoneWhenTheStoreIsRefused) {
+  Os().profiles.WriteString("FileLocations", "Carts1", "", "VELMAR.INI");
+  DialogScript script([](QDialog* dialog) {
+    EXPECT_TRUE(SplashStands());
+    QTest::keyClick(dialog, Qt::Key_Escape);
+  });
+  EXPECT_FALSE(Start());
+  EXPECT_FALSE(SplashIsLoaded());
+}
+
 TEST_F(StartUpTest, AConfirmedFirstRunWritesSplitOneAndGoesOnWithIt) {
   folder().WriteFile("VELKLT.INI", "");
   DialogScript script([this](QDialog* dialog) {
@@ -137,6 +174,7 @@ TEST_F(StartUpTest, AConfirmedFirstRunWritesSplitOneAndGoesOnWithIt) {
   EXPECT_EQ(gSplitSettings[0].SplitName, "Larkfield");
   EXPECT_EQ(gSplitSettings[1].SplitName, "Split 2");
   EXPECT_EQ(gGeneralSettings.NumberActiveSplits, 2);
+  EXPECT_FALSE(SplashIsLoaded());
 }
 
 TEST_F(StartUpTest, TheFirstRunTestLooksForTheFixedNameWhateverTheSwitchSays) {
@@ -154,6 +192,7 @@ TEST_F(StartUpTest, NoActiveSplitStopsTheProgramAfterTheMenusAreHidden) {
     EXPECT_FALSE(Entry(qPrintable(QString("mnuLogSettings%1").arg(n)))->isVisible());
   }
   EXPECT_FALSE(Entry("mnuLogSettingsSep")->isVisible());
+  for (const QMdiSubWindow* child : Area()->subWindowList()) EXPECT_FALSE(child->isVisible());
 }
 
 TEST_F(StartUpTest, MoreSplitsThanThereAreStopTheProgram) {

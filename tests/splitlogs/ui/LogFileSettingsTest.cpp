@@ -99,10 +99,12 @@ TEST_F(LogFileSettingsTest, FourBoxesTypeInUpperCaseAndNoOther) {
   const struct {
     const char* box;
     const char* text;
-  } rows[] = {{"txtPreSuffix", "AB\xC3\x84 1"},     {"txtFormat", "YYMMDD"},
-              {"txtFileExtension", "LOGX"},         {"txtLogTXChainCode", "N2"},
-              {"txtReconcileFileExtension", "rec"}, {"txtSplitName", "lower case"}};
-  const char* typed[] = {"ab\xC3\xA4 1", "yymmdd", "logx", "n2", "rec", "lower case"};
+  } rows[] = {{"txtPreSuffix", "AB\xC3\x84 1"},      {"txtFormat", "YYMMDD"},
+              {"txtFileExtension", "LOGX"},          {"txtLogTXChainCode", "N2"},
+              {"txtReconcileFileExtension", "rec"},  {"txtSplitName", "lower case"},
+              {"txtSourceDirectory", "c:\\Logs\\in"}};
+  const char* typed[] = {"ab\xC3\xA4 1", "yymmdd",     "logx",        "n2",
+                         "rec",          "lower case", "c:\\Logs\\in"};
   for (size_t i = 0; i < std::size(rows); ++i) {
     Box(rows[i].box)->setFocus();
     Box(rows[i].box)->clear();

@@ -183,6 +183,28 @@ TEST_F(SplitWindowTest, EnterLinesUpAsAClickDoesAndArrowsMoveAlone) {
   EXPECT_EQ(gSplits(2).gridLog.Row(), 8);
 }
 
+TEST_F(SplitWindowTest, EnterOfTheKeypadIsEnterToo) {
+  Click(1, 5);
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&View(1), Qt::Key_Down);
+  QTest::keyClick(&View(1), Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(gSplits(2).gridLog.Row(), 8);
+}
+
+TEST_F(SplitWindowTest, AClickIntoAnEmptyGridSendsTheOthersToTheirFirstBreak) {
+  WriteLog(1, kDay, "");
+  gSplits(1).LoadLogFile();
+  ASSERT_EQ(gSplits(1).gridLog.Rows(), 1);
+  for (const bool click : {true, false}) {
+    gSplits(2).SelectBreakByTime(7 * 3600);
+    ASSERT_EQ(gSplits(2).gridLog.Row(), 5);
+    if (click) QTest::mouseClick(View(1).viewport(), Qt::LeftButton, {}, QPoint(20, 20));
+    if (!click) QTest::keyClick(&View(1), Qt::Key_Return);
+    EXPECT_EQ(gSplits(2).gridLog.Row(), 1);
+    EXPECT_EQ(gSplits(1).gridLog.Row(), 0);
+  }
+  EXPECT_EQ(StoppedBy(), 0);
+}
+
 TEST_F(SplitWindowTest, AClickBesideTheRowsTakesTheCurrentRow) {
   Click(1, 5);
   gSplits(2).SelectBreakByTime(0);
