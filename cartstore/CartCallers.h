@@ -14,8 +14,8 @@ class CartJumper {
 };
 
 // What the browser calls when it closes with a result: the cart that was chosen, or 0. An opener
-// that does not want to hear of it is nothing to the browser. The browser is hidden by then and must
-// outlive the call.
+// that does not want to hear of it is nothing to the browser. The browser is hidden by then and
+// must outlive the call.
 class CartDisplay {
  public:
   virtual ~CartDisplay() = default;

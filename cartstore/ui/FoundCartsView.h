@@ -27,7 +27,8 @@ class FoundCartsView : public QTreeView {
   void RowAdded();
   void ShowAddedRows();
 
-  // Gives the columns their widths for a list of this width in twips; they are the user's from then on.
+  // Gives the columns their widths for a list of this width in twips; they are the user's from then
+  // on.
   void SetColumnWidths(int listWidth);
 
   // The number of the cart that was last dragged.

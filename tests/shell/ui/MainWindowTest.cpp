@@ -256,7 +256,7 @@ TEST_F(MainWindowTest, AMinimisedFrameHasNoLeastHeight) {
   EXPECT_EQ(main->height(), 160);
   main->showNormal();
   main->resize(700, 161);
-  EXPECT_EQ(main->height(), ToPixels(3000));
+  EXPECT_EQ(main->frameGeometry().height(), ToPixels(3000));
 }
 
 TEST_F(MainWindowTest, TheKeyboardReachesToolbarAndWindows) {
