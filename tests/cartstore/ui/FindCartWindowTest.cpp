@@ -466,17 +466,21 @@ TEST_F(FindCartFormTest, WithoutItsFileTheAnimationIsMissing) {
   EXPECT_EQ(Numbers().size(), 4);
 }
 
+// In milliseconds; a machine under load is slow to decode.
+constexpr int kPatience = 30000;
+
 TEST_F(FindCartFormTest, TheAnimationMovesWhileItPlaysAndThenStandsStill) {
   auto* film = The<SearchAnimation>("animFind");
   if (window->AnimationMissing) GTEST_SKIP() << "this build plays no films";
   const auto picture = [&] { return film->grab().toImage(); };
   const QImage nothing = picture();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return picture() != nothing; })) << "its first picture";
+  ASSERT_TRUE(QTest::qWaitFor([&] { return picture() != nothing; }, kPatience))
+      << "its first picture";
   const QImage first = picture();
   film->Play();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != first; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != first; }, kPatience));
   film->Stop();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == first; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return picture() == first; }, kPatience));
 }
 
 TEST_F(FindCartFormTest, AFileThatIsNoFilmCountsAsMissing) {
@@ -484,7 +488,7 @@ TEST_F(FindCartFormTest, AFileThatIsNoFilmCountsAsMissing) {
   os.programFolder = folder().Path();
   window.reset();
   Open();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return window->AnimationMissing; }));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window->AnimationMissing; }, kPatience));
   EXPECT_FALSE(The<SearchAnimation>("animFind")->isVisible());
 }
 

@@ -75,7 +75,7 @@ TEST_F(ExportDialogTest, AllFilesShowsAllOfThemAndLeavesTheNameAlone) {
                           "README", 1, Qt::MatchExactly)
                   .isEmpty();
     };
-    EXPECT_TRUE(QTest::qWaitFor(shown));
+    EXPECT_TRUE(QTest::qWaitFor(shown, 30000));
     dialog->reject();
   });
   Save();
