@@ -1,6 +1,7 @@
 #include "splitlogs/SplitLog.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "cartstore/LoadCartInfo.h"
 #include "common/ErrorState.h"
@@ -135,7 +136,7 @@ void SplitLog::LoadLogFile() {
   OpenLogFile(splitNumber_, path);
   gridLog.SetRows(1);
   if (settings.LogFileNumber == 0) return;
-  const PaintingHeldBack heldBack(gridLog);
+  std::optional<PaintingHeldBack> heldBack(gridLog);
   const BusyPointer busy;
   try {
     FillGrid();
@@ -145,6 +146,8 @@ void SplitLog::LoadLogFile() {
                                            settings.SplitName + "\", " + settings.CurrentLogPath +
                                            where);
   }
+  // What has been held back is painted under the hourglass still.
+  heldBack.reset();
 }
 
 void SplitLog::FillGrid() {

@@ -257,6 +257,22 @@ TEST_F(LoadLogFileTest, ALongLineAndBinaryBytesAreOneAdvert) {
   EXPECT_EQ(4, binary.Rows());
 }
 
+// Looks at whether the grid paints when the pointer changes.
+class PaintWatchingUi : public RecordingUi {
+ public:
+  void SetMousePointer(MousePointer shape) override {
+    RecordingUi::SetMousePointer(shape);
+    paints.push_back(gSplits(1).gridLog.Redraw());
+  }
+  std::vector<bool> paints;
+};
+
+TEST_F(LoadLogFileTest, TheGridPaintsBeforeThePointerGoesBack) {
+  const PaintWatchingUi watching;
+  Load(Line("06:00", 1));
+  EXPECT_EQ((std::vector<bool>{false, true}), watching.paints);
+}
+
 TEST_F(LoadLogFileTest, TheHourglassShowsDuringTheFill) {
   Load(Line("06:00", 1));
   EXPECT_EQ((std::vector<MousePointer>{MousePointer::kHourglass, MousePointer::kDefault}),
