@@ -14,6 +14,7 @@
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/checking/ui/ResultsTest.h"
+#include "tests/support/ui/SizeRecorder.h"
 
 namespace logchecker {
 namespace {
@@ -131,21 +132,6 @@ TEST_F(ResultsTest, ASmallWindowSnapsBackHeightFirst) {
   EXPECT_EQ(window->height(), 134);
   EXPECT_EQ(window->width(), 200);
 }
-
-// The sizes that the window goes through, in the order in which it is told of them.
-class SizeRecorder : public QObject {
- public:
-  explicit SizeRecorder(QWidget* window) { window->installEventFilter(this); }
-  std::vector<QSize> sizes;
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override {
-    if (event->type() == QEvent::Resize) {
-      sizes.push_back(static_cast<QResizeEvent*>(event)->size());
-    }
-    return QObject::eventFilter(watched, event);
-  }
-};
 
 TEST_F(ResultsTest, TheHeightIsSetAndTellsTheWindowBeforeTheWidthIs) {
   Check();

@@ -4,6 +4,7 @@
 
 #include "common/ui/Twips.h"
 #include "splitlogs/ui/frmSplit.h"
+#include "tests/support/ui/SizeRecorder.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -14,22 +15,6 @@ constexpr int kLeastWidth = 200;   // 3000 twips
 
 class SplitWindowSizeTest : public WindowTest {
  protected:
-  // Puts down each size that a window takes.
-  class SizeRecorder : public QObject {
-   public:
-    explicit SizeRecorder(QWidget* window) { window->installEventFilter(this); }
-
-    std::vector<QSize> sizes;
-
-   protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-      if (event->type() == QEvent::Resize) {
-        sizes.push_back(static_cast<QResizeEvent*>(event)->size());
-      }
-      return QObject::eventFilter(watched, event);
-    }
-  };
-
   SplitWindowSizeTest() {
     area.resize(1000, 700);
     area.show();
