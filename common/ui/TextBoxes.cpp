@@ -93,7 +93,7 @@ bool IsDigit(QChar character) { return IsTextOfKind(FromQString(QString(characte
 
 void SelectAllOnFocus(QLineEdit& textBox) { new BoxFilter(textBox, SelectOnFocus); }
 
-// The focus is the list's box's own, which hands its events on.
+// The box with the list has the focus itself, and hands its keys on to its line.
 void SelectAllOnFocus(QComboBox& box) { new BoxFilter(*box.lineEdit(), box, SelectOnFocus); }
 
 void TypeInUpperCase(QLineEdit& textBox) {

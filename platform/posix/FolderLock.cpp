@@ -19,7 +19,7 @@ using Clock = std::chrono::steady_clock;
 // moments, and one that looks seldom would miss them all.
 constexpr timespec kPause = {0, 50000};  // in nanoseconds
 
-std::atomic<bool> last_wait_was_in_vain(false);
+std::atomic<bool> gLastWaitWasInVain(false);
 
 bool LockWithin(int folder, int patience) {
   const Clock::time_point end = Clock::now() + std::chrono::milliseconds(patience);
@@ -39,9 +39,9 @@ FolderLock::FolderLock(const std::string& hostPath, int patience) {
       separator == std::string::npos ? "." : hostPath.substr(0, separator + 1);
   folder_ = open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
   if (folder_ < 0) return;
-  if (last_wait_was_in_vain) patience = 0;
+  if (gLastWaitWasInVain) patience = 0;
   held_ = LockWithin(folder_, patience);
-  last_wait_was_in_vain = !held_;
+  gLastWaitWasInVain = !held_;
 }
 
 FolderLock::~FolderLock() {

@@ -13,6 +13,7 @@
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/Messages.h"
+#include "common/PathText.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/HostFolder.h"
@@ -137,7 +138,7 @@ void frmPrintPreview::OnSave() {
   SaveDialog dialog(this, "Select File to Save to", {{"All Files", "*"}}, "", "");
   dialog.SetOverwritePrompt(false);
   const std::optional<std::string> file = dialog.Ask("*.*");
-  if (file && !Trim(file->substr(file->find_last_of("\\/") + 1)).empty()) SaveAs(*file);
+  if (file && !Trim(GetFileNamePart(*file)).empty()) SaveAs(*file);
 }
 
 // As plain text, without a word whatever comes of it.
