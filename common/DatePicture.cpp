@@ -140,4 +140,6 @@ std::optional<std::string> FormatDate(double dateTime, std::string_view picture)
   return text;
 }
 
+std::string IsoDate(int32_t day) { return FormatDate(day, "yyyy-mm-dd").value_or("?"); }
+
 }  // namespace logchecker

@@ -1,6 +1,7 @@
 // Dates and times by a picture, such as "YYMMDD" or "ddddd hh:nn:ss".
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -19,5 +20,8 @@ namespace logchecker {
 // Every other character that is no letter stands for itself. A picture with any other letter or run
 // of letters is refused, and so is a day outside the years 100 to 9999.
 std::optional<std::string> FormatDate(double dateTime, std::string_view picture);
+
+// The day as YYYY-MM-DD, "?" outside those years.
+std::string IsoDate(int32_t day);
 
 }  // namespace logchecker

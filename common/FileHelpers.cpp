@@ -28,6 +28,20 @@ void AppendToLogFile(const std::string& path, bool stamped, const std::string& t
   files.Close(number);
 }
 
+std::string WriteWholeFile(const std::string& path, const std::string& bytes) {
+  Files& files = Os().files;
+  int16_t number = 0;
+  int32_t error = files.FreeFile(&number);
+  if (error == kNoError) error = files.OpenForOutput(number, path);
+  if (error == kNoError) error = files.Write(number, bytes);
+  if (error == kNoError) {
+    error = files.Close(number);
+  } else {
+    files.Abandon(number);
+  }
+  return error == kNoError ? "" : path + " could not be written: " + ErrorText(error);
+}
+
 void ReadTextLine(int16_t fileNumber, std::string& line) {
   line.clear();
   if (fileNumber <= 0) return;

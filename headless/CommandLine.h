@@ -6,19 +6,12 @@
 #include <string>
 #include <vector>
 
+#include "headless/SampleStation.h"
+
 namespace logchecker {
 
 enum class Verb { kCheck, kShow, kCart, kSample };
 enum class ReportFormat { kText, kCsv, kJson };
-
-// Sizes of the sample station; without any of them it is the station of the documentation.
-struct SampleSizes {
-  std::optional<int32_t> splits;
-  std::optional<int32_t> breaks;
-  std::optional<int32_t> adverts;
-
-  bool AnyGiven() const { return splits || breaks || adverts; }
-};
 
 struct Options {
   Verb verb = Verb::kCheck;

@@ -76,8 +76,6 @@ std::string TellMissingLogs(const std::vector<SplitReport>& splits, int32_t day)
 
 }  // namespace
 
-std::string IsoDate(int32_t day) { return FormatDate(day, "yyyy-mm-dd").value_or("?"); }
-
 DayReport CheckDay(int32_t day) {
   DayReport report;
   report.day = day;

@@ -43,7 +43,4 @@ struct DayReport {
 // standard error.
 DayReport CheckDay(int32_t day);
 
-// The day as YYYY-MM-DD.
-std::string IsoDate(int32_t day);
-
 }  // namespace logchecker

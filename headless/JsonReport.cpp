@@ -2,6 +2,7 @@
 #include <cmath>
 #include <nlohmann/json.hpp>
 
+#include "common/DatePicture.h"
 #include "common/TextHelpers.h"
 #include "common/VersionData.h"
 #include "headless/Reports.h"

@@ -2,34 +2,17 @@
 
 #include <algorithm>
 
-#include "common/ErrorState.h"
-#include "platform/Platform.h"
+#include "common/FileHelpers.h"
 #include "platform/StandardStreams.h"
 #include "platform/StationText.h"
 
 namespace logchecker {
 
-namespace {
-
-int32_t WriteWhole(const std::string& path, const std::string& bytes) {
-  Files& files = Os().files;
-  int16_t file = 0;
-  int32_t error = files.FreeFile(&file);
-  if (error == kNoError) error = files.OpenForOutput(file, path);
-  if (error == kNoError) error = files.Write(file, bytes);
-  if (error == kNoError) return files.Close(file);
-  files.Abandon(file);
-  return error;
-}
-
-}  // namespace
-
 std::string WriteReport(const std::string& path, const std::string& bytes) {
   if (path.empty()) {
     return WriteStandardOutput(bytes) ? "" : "standard output could not be written";
   }
-  const int32_t error = WriteWhole(path, bytes);
-  return error == kNoError ? "" : path + " could not be written: " + ErrorText(error);
+  return WriteWholeFile(path, bytes);
 }
 
 std::string FieldText(std::string_view stationText) {

@@ -2,8 +2,8 @@
 #include <algorithm>
 
 #include "common/TextHelpers.h"
+#include "common/Trouble.h"
 #include "headless/SamplePlan.h"
-#include "headless/Station.h"
 #include "platform/StationText.h"
 #include "splitlogs/AdvertLog_FN.h"
 #include "splitlogs/KLT_Common.h"

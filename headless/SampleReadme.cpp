@@ -1,6 +1,6 @@
 // What the sample station tells of itself.
+#include "common/DatePicture.h"
 #include "common/TimeText.h"
-#include "headless/DayCheck.h"
 #include "headless/SamplePlan.h"
 
 namespace logchecker {

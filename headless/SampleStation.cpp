@@ -5,9 +5,8 @@
 
 #include "common/GeneralFunctions.h"
 #include "common/GeneralSettings.h"
-#include "headless/Output.h"
+#include "common/Trouble.h"
 #include "headless/SamplePlan.h"
-#include "headless/Station.h"
 #include "platform/Platform.h"
 
 namespace logchecker {
@@ -105,7 +104,7 @@ void MakeSampleFolder(const std::string& path) {
 }
 
 void WriteSampleFile(const std::string& path, const std::string& bytes) {
-  const std::string failure = WriteReport(path, bytes);
+  const std::string failure = WriteWholeFile(path, bytes);
   if (!failure.empty()) throw Trouble(failure);
 }
 

@@ -2,11 +2,19 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
-#include "headless/CommandLine.h"
-
 namespace logchecker {
+
+// Sizes of the sample station; without any of them it is the station of the documentation.
+struct SampleSizes {
+  std::optional<int32_t> splits;
+  std::optional<int32_t> breaks;
+  std::optional<int32_t> adverts;
+
+  bool AnyGiven() const { return splits || breaks || adverts; }
+};
 
 struct SampleStation {
   int32_t firstDay = 0;

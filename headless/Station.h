@@ -1,19 +1,11 @@
 // Getting a station ready for the headless program.
 #pragma once
 
-#include <stdexcept>
-#include <string>
-
+#include "common/Trouble.h"  // IWYU pragma: export
 #include "headless/CommandLine.h"
 #include "headless/TerminalUi.h"
 
 namespace logchecker {
-
-// Something that ends the program's work; its text is the one line that says why.
-class Trouble : public std::runtime_error {
- public:
-  using std::runtime_error::runtime_error;
-};
 
 // Points the program at its settings folder and reads the general settings. Throws Trouble when
 // there are none.
