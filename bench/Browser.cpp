@@ -12,8 +12,8 @@
 #include <functional>
 
 #include "bench/BenchStore.h"
-#include "cartstore/ui/frmCartBrowser.h"
-#include "cartstore/ui/frmFindCart.h"
+#include "cartbrowser/ui/frmCartBrowser.h"
+#include "cartbrowser/ui/frmFindCart.h"
 #include "common/ui/QtUserInterface.h"
 
 namespace logchecker {

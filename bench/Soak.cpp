@@ -11,8 +11,8 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "checking/ExportListViewToCSV.h"
 #include "headless/DayCheck.h"
-#include "headless/SampleStation.h"
 #include "platform/Platform.h"
+#include "sample/SampleStation.h"
 #include "shell/LoadGeneralSettings.h"
 
 namespace logchecker {

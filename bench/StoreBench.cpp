@@ -6,8 +6,8 @@
 #include <string>
 
 #include "bench/BenchStore.h"
-#include "cartstore/BrowserRows.h"
-#include "cartstore/CartWalk.h"
+#include "cartbrowser/BrowserRows.h"
+#include "cartbrowser/CartWalk.h"
 
 namespace logchecker {
 namespace {

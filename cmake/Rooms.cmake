@@ -33,12 +33,20 @@ function(add_room name)
   endforeach()
 endfunction()
 
-# The windows of a room: its ui/ folder, logchecker_<room>_ui. Layouts are .ui files beside their forms.
-# USES names the rooms whose windows it uses.
+# The windows of a room: its ui/ folder, logchecker_<room>_ui. Layouts are .ui files beside their forms,
+# whose headers have commands of their own, so that the build knows them before it looks at what is new:
+# a changed layout reaches the program in one build. USES names the rooms whose windows it uses.
 function(add_room_ui name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;USES" ${ARGN})
   add_library(logchecker_${name}_ui STATIC ${ROOM_SOURCES})
-  set_target_properties(logchecker_${name}_ui PROPERTIES AUTOMOC ON AUTOUIC ON AUTORCC ON)
+  set_target_properties(logchecker_${name}_ui PROPERTIES AUTOMOC ON AUTORCC ON)
+  file(GLOB layouts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.ui")
+  if(layouts)
+    qt6_wrap_ui(headers ${layouts})
+    target_sources(logchecker_${name}_ui PRIVATE ${headers})
+    target_include_directories(logchecker_${name}_ui PRIVATE "${CMAKE_CURRENT_BINARY_DIR}")
+    add_custom_target(logchecker_${name}_ui_layouts DEPENDS ${headers})
+  endif()
   target_link_libraries(logchecker_${name}_ui PUBLIC logchecker_${name} Qt6::Widgets)
   foreach(room IN LISTS ROOM_USES)
     target_link_libraries(logchecker_${name}_ui PUBLIC logchecker_${room}_ui)

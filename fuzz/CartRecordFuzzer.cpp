@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "cartbrowser/CartSearch.h"
 #include "cartstore/CartRecord.h"
-#include "cartstore/CartSearch.h"
 #include "fuzz/Fuzzer.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {

@@ -1,6 +1,6 @@
 // Any bytes as a note.
 #include "fuzz/Fuzzer.h"
-#include "printing/RichText.h"
+#include "notes/RichText.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
   using namespace logchecker;

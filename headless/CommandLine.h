@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "headless/SampleStation.h"
+#include "sample/SampleStation.h"
 
 namespace logchecker {
 

@@ -1,6 +1,6 @@
 // Browses the cart store, and prints the number of the cart that was chosen.
-#include "cartstore/ui/CartBrowserProgram.h"
-#include "cartstore/ui/NotesWindow.h"
+#include "cartbrowser/ui/CartBrowserProgram.h"
+#include "cartbrowser/ui/NotesWindow.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
 

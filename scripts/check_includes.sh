@@ -4,7 +4,7 @@ set -euo pipefail
 cd "$(dirname "$0")/.."
 
 mapfile -t units < <(git ls-files '*.cpp' |
-  grep -E '^(platform|common|printing|cartstore|splitlogs|checking|shell|headless)/' |
+  grep -E '^(platform|common|dialogs|printing|notes|cartstore|splitlogs|cartbrowser|checking|shell|sample|headless)/' |
   grep -Ev '/ui/|^platform/windows/')
 found=$(mktemp)
 trap 'rm -f "$found"' EXIT

@@ -9,15 +9,17 @@ import sys
 MAY_USE = {
     "platform": set(),
     "common": {"platform"},
+    "dialogs": {"common", "platform"},
     "printing": {"common", "platform"},
-    "cartstore": {"printing", "common", "platform"},
-    "splitlogs": {"cartstore", "common", "platform"},
-    "checking": {"splitlogs", "cartstore", "printing", "common", "platform"},
-    "shell": {"checking", "splitlogs", "cartstore", "printing", "common", "platform"},
-    "headless": {"shell", "checking", "splitlogs", "cartstore", "printing", "common", "platform"},
-    "programs": {"headless", "shell", "checking", "splitlogs", "cartstore", "printing", "common",
-                 "platform"},
+    "notes": {"printing", "dialogs", "common", "platform"},
+    "cartstore": {"dialogs", "common", "platform"},
+    "splitlogs": {"cartstore", "dialogs", "common", "platform"},
+    "cartbrowser": {"cartstore", "notes", "dialogs", "printing", "common", "platform"},
+    "checking": {"splitlogs", "cartstore", "dialogs", "printing", "common", "platform"},
 }
+# These may use all that stands above them here.
+for upper in ("shell", "sample", "headless", "programs"):
+    MAY_USE[upper] = set(MAY_USE)
 INCLUDE = re.compile(r'^\s*#\s*include\s+([<"])([^>"]+)[>"]', re.MULTILINE)
 
 

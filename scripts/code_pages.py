@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes printing/CodePageTables.cpp: what the upper 128 bytes of the code pages of rich text mean."""
+"""Writes notes/CodePageTables.cpp: what the upper 128 bytes of the code pages of rich text mean."""
 
 import pathlib
 
@@ -16,7 +16,7 @@ def code_point(byte, codec):
 
 
 def main():
-    out = ["// Written by scripts/code_pages.py.", '#include "printing/CodePages.h"', "",
+    out = ["// Written by scripts/code_pages.py.", '#include "notes/CodePages.h"', "",
            "namespace logchecker {", "",
            "const CodePage kCodePages[kNumberOfCodePages] = {"]
     for number, codec in PAGES.items():

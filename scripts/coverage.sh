@@ -11,7 +11,7 @@ find build/coverage -name '*.gcda' -delete
 ctest --test-dir build/coverage --output-on-failure --no-tests=error -j "$(nproc)" >build/coverage/tests.log ||
   { tail -60 build/coverage/tests.log >&2; exit 1; }
 
-rooms='(platform|common|printing|cartstore|splitlogs|checking|shell|headless)'
+rooms='(platform|common|dialogs|printing|notes|cartstore|splitlogs|cartbrowser|checking|shell|sample|headless)'
 mkdir -p build/coverage/html
 gcovr --root . --object-directory build/coverage --exclude-unreachable-branches --exclude-throw-branches \
   --filter "$rooms/" --exclude 'platform/windows/' --json build/coverage/lines.json \

@@ -14,7 +14,8 @@ python3 scripts/check_rules.py
 # The generated headers and the compile commands come from configuring.
 [ -f build/debug/compile_commands.json ] || cmake --preset debug >/dev/null
 # So do the headers that the toolkit's tools write for the windows.
-mapfile -t written < <(ninja -C build/debug -t targets all | sed -n 's/^\([a-z_/]*_autogen\): phony$/\1/p')
+mapfile -t written < <(ninja -C build/debug -t targets all |
+  sed -n 's/^\([a-z_/]*_\(autogen\|layouts\)\): phony$/\1/p')
 [ ${#written[@]} -eq 0 ] || cmake --build --preset debug --target "${written[@]}" -- --quiet
 mapfile -t units < <(git ls-files '*.cpp' | grep -Ev '^(tests|bench|fuzz|platform/windows)/|^cmake/')
 printf '%s\n' "${units[@]}" |

@@ -17,9 +17,9 @@
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
-#include "common/ui/SaveDialog.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
+#include "dialogs/ui/SaveDialog.h"
 #include "splitlogs/SplitLogTable.h"
 
 namespace logchecker {

@@ -21,7 +21,7 @@
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
-#include "common/ui/frmSelectHour.h"
+#include "dialogs/ui/frmSelectHour.h"
 #include "shell/LoadLogs.h"
 #include "shell/ui/frmGeneralSettings.h"
 #include "shell/ui/frmSplash.h"

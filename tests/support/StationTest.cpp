@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "cartbrowser/FindCart.h"
+#include "cartbrowser/SearchHistory.h"
 #include "cartstore/FamilySettings.h"
-#include "cartstore/FindCart.h"
-#include "cartstore/SearchHistory.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/GeneralFunctions.h"

@@ -9,7 +9,7 @@
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/ui/ClickableLabel.h"
 #include "common/ui/Twips.h"
-#include "common/ui/frmSelectHour.h"
+#include "dialogs/ui/frmSelectHour.h"
 #include "tests/shell/ui/MainTest.h"
 
 namespace logchecker {

@@ -1,0 +1,83 @@
+#include "cartbrowser/ui/CartRowsPanel.h"
+
+#include <QApplication>
+#include <algorithm>
+
+#include "cartbrowser/BrowserRows.h"
+#include "cartbrowser/ui/CartRowWidgets.h"
+#include "common/ui/StationQString.h"
+#include "common/ui/Twips.h"
+
+namespace logchecker {
+
+namespace {
+
+constexpr int kLeastButtonWidth = 855;  // twips
+constexpr int kButtonMargins = 240;     // beside the number, both together
+constexpr int kLinesOfDoubleRow = 3;
+constexpr int kSmallestFont = 8;  // pixels
+
+}  // namespace
+
+QFont CartRowFont() {
+  QFont font = QApplication::font();
+  // The width of a text is then the sum of its characters' widths.
+  font.setKerning(false);
+  const int room = ToPixels(kDoubleRowHeight) / kLinesOfDoubleRow;
+  int size = QFontInfo(font).pixelSize();
+  do {
+    font.setPixelSize(size);
+  } while (QFontMetrics(font).height() > room && --size >= kSmallestFont);
+  return font;
+}
+
+CartRowsPanel::CartRowsPanel(CartBrowser& browser, QWidget* parent)
+    : QFrame(parent), browser_(browser) {
+  setFrameShape(QFrame::Box);
+  setFrameShadow(QFrame::Plain);
+}
+
+int CartRowsPanel::ButtonWidth() const {
+  const auto digits = static_cast<qsizetype>(CartBrowser::JumpTextMaxLength());
+  const int text = QFontMetrics(font()).horizontalAdvance(QString(digits, '0'));
+  return std::max(kLeastButtonWidth, ToTwips(text) + kButtonMargins);
+}
+
+void CartRowsPanel::MakeRow() {
+  const auto row = static_cast<int16_t>(rows_.size() + 1);
+  RowWidgets widgets;
+  widgets.button = new CartNumberButton(browser_, row, this);
+  widgets.button->setObjectName(QString("cmdCartNumber%1").arg(row));
+  widgets.panel = new CartPanel(browser_, row, this);
+  widgets.panel->setObjectName(QString("pnlCart%1").arg(row));
+  rows_.push_back(widgets);
+}
+
+void CartRowsPanel::ShowRows() {
+  while (rows_.size() < static_cast<size_t>(browser_.RowsMade())) MakeRow();
+  for (int16_t row = 1; row <= browser_.RowsMade(); ++row) ShowRow(row);
+}
+
+void CartRowsPanel::ShowRow(int16_t row) {
+  const BrowserRow& shown = browser_.Row(row);
+  const RowWidgets& widgets = rows_[static_cast<size_t>(row) - 1];
+  const RowPlace place = browser_.PlaceOf(row);
+  const QString number = ToQString(shown.ButtonCaption);
+  widgets.button->setText(number);
+  widgets.button->setAccessibleName(QString("Cart %1").arg(number));
+  widgets.button->SetColour(shown.ButtonColour);
+  widgets.button->setGeometry(ToPixels(place.ButtonLeft), ToPixels(place.Top),
+                              ToPixels(ButtonWidth()), ToPixels(place.Height));
+  widgets.panel->Show(shown);
+  widgets.panel->setGeometry(ToPixels(place.PanelLeft), ToPixels(place.Top),
+                             ToPixels(place.PanelWidth), ToPixels(place.Height));
+  widgets.button->setVisible(shown.Visible);
+  widgets.panel->setVisible(shown.Visible);
+}
+
+void CartRowsPanel::ShowButtonColour(int16_t row) {
+  if (static_cast<size_t>(row) > rows_.size()) return;
+  rows_[static_cast<size_t>(row) - 1].button->SetColour(browser_.Row(row).ButtonColour);
+}
+
+}  // namespace logchecker

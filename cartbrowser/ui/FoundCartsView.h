@@ -1,0 +1,58 @@
+// lviewItems as the user sees it.
+#pragma once
+
+#include <QTimer>
+#include <QTreeView>
+#include <string>
+
+#include "cartbrowser/FindCart.h"
+
+namespace logchecker {
+
+class FoundCartsModel;
+
+class FoundCartsView : public QTreeView {
+  Q_OBJECT
+
+ public:
+  explicit FoundCartsView(QWidget* parent = nullptr);
+
+  // The search whose results it shows, and whom it tells what the user does; it must outlive the
+  // view. Called once.
+  void SetSearch(FindCart& search);
+
+  // Takes over the results as they are. Rows that were added are taken in a moment, many at a time;
+  // ShowAddedRows takes them at once.
+  void ShowResults();
+  void RowAdded();
+  void ShowAddedRows();
+
+  // Gives the columns their widths for a list of this width in twips; they are the user's from then
+  // on.
+  void SetColumnWidths(int listWidth);
+
+  // The number of the cart that was last dragged.
+  std::string Tag;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
+
+ private:
+  void ShowSelection();
+  void ShowSortMark();
+  void BeginDrag();
+
+  FindCart* search_ = nullptr;
+  FoundCartsModel* model_ = nullptr;
+  QTimer added_;
+  bool following_ = false;  // the selection is the search's, not the user's
+};
+
+}  // namespace logchecker

@@ -1,0 +1,86 @@
+#include "dialogs/ui/SaveDialog.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMessageBox>
+
+#include "common/UserInterface.h"
+#include "common/ui/StationQString.h"
+#include "dialogs/ui/HostFolder.h"
+
+namespace logchecker {
+
+namespace {
+
+bool HasWildcard(const QString& name) { return name.contains('*') || name.contains('?'); }
+
+}  // namespace
+
+SaveDialog::SaveDialog(QWidget* owner, const QString& title, const std::vector<FileFilter>& filters,
+                       const QString& defaultExtension, const std::string& folder)
+    : QFileDialog(owner, title) {
+  setObjectName("CommonDialog1");
+  // The system's own dialogs keep neither the rule on wildcards nor that on names.
+  setOption(QFileDialog::DontUseNativeDialog);
+  // Its own question would take a name for markup.
+  setOption(QFileDialog::DontConfirmOverwrite);
+  setAcceptMode(QFileDialog::AcceptSave);
+  setFileMode(QFileDialog::AnyFile);
+  setOption(QFileDialog::HideNameFilterDetails);
+  QStringList names;
+  for (const FileFilter& filter : filters) names << filter.text + " (" + filter.pattern + ")";
+  setNameFilters(names);
+  setDefaultSuffix(defaultExtension);
+  const QString start = HostFolder(folder);
+  if (!start.isEmpty()) setDirectory(start);
+}
+
+std::optional<std::string> SaveDialog::Ask(const QString& presetName) {
+  auto* name = findChild<QLineEdit*>("fileNameEdit");
+  if (name != nullptr) {
+    name->setText(presetName);
+    name->selectAll();
+  }
+  if (exec() != QDialog::Accepted || selectedFiles().isEmpty()) return std::nullopt;
+  return FromQString(selectedFiles().constFirst());
+}
+
+void SaveDialog::accept() {
+  auto* name = findChild<QLineEdit*>("fileNameEdit");
+  if (name != nullptr && HasWildcard(name->text())) {
+    setNameFilter(name->text());
+    name->selectAll();
+    return;
+  }
+  const QStringList files = selectedFiles();
+  if (!files.isEmpty() && Refuses(files.constFirst())) return;
+  QFileDialog::accept();
+}
+
+bool SaveDialog::Refuses(const QString& file) {
+  std::string stationPath;
+  if (!FromQString(file, &stationPath)) {
+    Ui().Show(
+        {"The file's name has characters that the station's code page can't hold:\n" + stationPath,
+         MessageIcon::kExclamation, MessageButtons::kOk, kProgramTitle});
+    return true;
+  }
+  const QFileInfo facts(file);
+  if (facts.isDir()) return false;
+  if (facts.exists() && !overwritePrompt_) return false;
+  if (facts.exists()) {
+    return !Agrees(tr("%1 already exists.\n\nReplace it?").arg(facts.fileName()));
+  }
+  if (!createPrompt_ || !facts.dir().exists()) return false;
+  return !Agrees(tr("%1\nThis file does not exist.\n\nCreate the file?").arg(facts.fileName()));
+}
+
+bool SaveDialog::Agrees(const QString& question) {
+  QMessageBox box(QMessageBox::Question, windowTitle(), question,
+                  QMessageBox::Yes | QMessageBox::No, this);
+  box.setTextFormat(Qt::PlainText);
+  return box.exec() == QMessageBox::Yes;
+}
+
+}  // namespace logchecker

@@ -1,0 +1,105 @@
+// How the controls of the search's window look and answer.
+#include <QCheckBox>
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTabWidget>
+
+#include "tests/cartbrowser/ui/FindCartForm.h"
+
+namespace logchecker {
+namespace {
+
+class FindCartControlsTest : public FindCartFormTest {
+ protected:
+  // What is behind the text of a box as it stands now, whichever role its style takes.
+  std::vector<QColor> Backgrounds(const char* name) {
+    const QPalette colours = The<QWidget>(name)->palette();
+    return {colours.color(QPalette::Base), colours.color(QPalette::Button)};
+  }
+  static std::vector<QColor> Desktop(QPalette::ColorRole role) {
+    const QColor colour = QApplication::palette().color(QPalette::Active, role);
+    return {colour, colour};
+  }
+  // The window's colour behind boxes that are enabled, a button's behind those that are not.
+  void ExpectBackgrounds(const std::vector<const char*>& enabled,
+                         const std::vector<const char*>& disabled) {
+    for (const char* name : enabled) {
+      EXPECT_TRUE(The<QWidget>(name)->isEnabled()) << name;
+      EXPECT_EQ(Backgrounds(name), Desktop(QPalette::Base)) << name;
+    }
+    for (const char* name : disabled) {
+      EXPECT_FALSE(The<QWidget>(name)->isEnabled()) << name;
+      EXPECT_EQ(Backgrounds(name), Desktop(QPalette::Button)) << name;
+    }
+  }
+  void ClickHeader(FoundColumn column) {
+    QHeaderView* header = List()->header();
+    const int x = header->sectionViewportPosition(column) + header->sectionSize(column) / 2;
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(x, header->height() / 2));
+  }
+};
+
+TEST_F(FindCartControlsTest, TheSearchTextIsSelectedWheneverItGetsTheFocus) {
+  Text()->setEditText("some words");
+  const auto comesIn = [this](const std::function<void()>& bring) {
+    The<QWidget>("chkNotes")->setFocus();
+    Text()->lineEdit()->deselect();
+    bring();
+    QApplication::processEvents();
+    EXPECT_TRUE(Text()->hasFocus());
+    EXPECT_EQ(Text()->lineEdit()->selectedText(), "some words");
+    EXPECT_EQ(Text()->lineEdit()->selectionStart(), 0);
+  };
+  comesIn([this] { Text()->setFocus(); });
+  comesIn([this] { QTest::mouseClick(Text()->lineEdit(), Qt::LeftButton); });
+}
+
+TEST_F(FindCartControlsTest, AClickOfTheMouseOnAHeadingSorts) {
+  FindText("cart");
+  ClickHeader(kFoundLine1);
+  EXPECT_EQ(Numbers(), (QStringList{"5", "50", "299", "200"}));
+  ClickHeader(kFoundLine1);
+  EXPECT_EQ(Numbers(), (QStringList{"200", "299", "50", "5"}));
+  ClickHeader(kFoundNumber);
+  EXPECT_EQ(Numbers(), (QStringList{"299", "200", "50", "5"})) << "by the hidden column";
+}
+
+TEST_F(FindCartControlsTest, BoxesHaveTheWindowsColourWhileTheyAreEnabledAndAButtonsOtherwise) {
+  ExpectBackgrounds({"cmbSearchText", "cmbSearchDirection"}, {"mskLength", "comboLength"});
+  The<QCheckBox>("chkTimeSearch")->click();
+  ExpectBackgrounds({"cmbSearchText", "cmbSearchDirection", "mskLength", "comboLength"}, {});
+  walk.atCart = [&](int cart) {
+    if (cart == 1) {
+      ExpectBackgrounds({}, {"cmbSearchText", "cmbSearchDirection", "mskLength", "comboLength"});
+    }
+  };
+  FindText("cart");
+  EXPECT_EQ(walk.carts, 300);
+  ExpectBackgrounds({"cmbSearchText", "cmbSearchDirection", "mskLength", "comboLength"}, {});
+}
+
+TEST_F(FindCartControlsTest, ALengthOfNothingIsAnEmptyCell) {
+  PutCart(7, RecordOfLength(0, "SILENT CART"));
+  FindText("silent");
+  ASSERT_EQ(Numbers(), QStringList{"7"});
+  EXPECT_EQ(Cell(0, kFoundLength), "");
+}
+
+TEST_F(FindCartControlsTest, WithoutAStartCartProgressBeginsAtTheFirst) {
+  for (const int32_t start : {0, -7}) {
+    window->close();
+    Open(start);
+    walk.carts = 0;
+    QString first;
+    walk.atCart = [&](int cart) {
+      if (cart == 1) first = The<QLabel>("lblSearchCartNumber")->text();
+    };
+    FindText("cart");
+    EXPECT_EQ(first, "1") << start;
+    EXPECT_EQ(Numbers(), (QStringList{"5", "50", "200", "299"})) << start;
+  }
+}
+
+}  // namespace
+}  // namespace logchecker

@@ -1,0 +1,81 @@
+#include "dialogs/ui/BrowseForFolder.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+
+#include "dialogs/BrowsePath.h"
+#include "platform/HostPaths.h"
+#include "platform/Platform.h"
+#include "tests/support/ui/WindowTest.h"
+
+namespace logchecker {
+namespace {
+
+using BrowseForFolderTest = WindowTest;
+
+TEST_F(BrowseForFolderTest, TheFolderChooserStartsWhereTheTextPointsHoweverItIsWritten) {
+  Os().directories.MakeDirectory(Path("drives"));
+  Os().directories.MakeDirectory(Path("drives") + "/c");
+  Os().directories.MakeDirectory(Path("drives") + "/c/Logs");
+  const std::string host = ToHostPath(Path("drives") + "/c/Logs");
+  std::string upper = Path("drives") + "/c/Logs";
+  for (char& c : upper) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
+  const std::string starts[] = {"C:\\LOGS", "c:/logs/", upper, "C:\\logs\\"};
+  for (const std::string& start : starts) {
+    DialogScript script([&](QDialog* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      EXPECT_EQ(QDir(files->directory()).canonicalPath().toStdString(), host) << start;
+      EXPECT_EQ(files->windowTitle(), "Title");
+      dialog->reject();
+    });
+    EXPECT_EQ(BrowseForFolder(nullptr, "Title", start, true, {}), "");
+    EXPECT_EQ(gBrowseStartPath, start);
+  }
+}
+
+TEST_F(BrowseForFolderTest, AChosenDriveComesBackWithoutItsBackslash) {
+  Os().directories.MakeDirectory(Path("drives"));
+  Os().directories.MakeDirectory(Path("drives") + "/c");
+  Os().directories.MakeDirectory(Path("drives") + "/c/Logs");
+  const auto accept = [](QDialog* dialog) {
+    Control<QLineEdit>(dialog, "fileNameEdit")->clear();
+    QMetaObject::invokeMethod(dialog, "accept");
+  };
+  {
+    DialogScript script(accept);
+    EXPECT_EQ(BrowseForFolder(nullptr, "T", "C:", true, {}), "c:");
+  }
+  {
+    DialogScript script(accept);
+    EXPECT_EQ(BrowseForFolder(nullptr, "T", "C:\\logs", true, {}), "c:\\Logs");
+  }
+}
+
+TEST_F(BrowseForFolderTest, ACallersOwnCallbackTakesThePlaceOfTheBuiltInOne) {
+  std::vector<std::string> told;
+  DialogScript script([&](QDialog* dialog) {
+    EXPECT_EQ(Control<QLabel>(dialog, "lblStatus")->text(), "mine");
+    dialog->reject();
+  });
+  BrowseForFolder(nullptr, "T", "C:\\x", false,
+                  [&](BrowseDialog& dialog, BrowseMessage message, const std::string& path) {
+                    if (message == BrowseMessage::kInitialized) told.push_back(path);
+                    dialog.SetStatusText("mine");
+                  });
+  EXPECT_EQ(told, std::vector<std::string>{"C:\\x"});
+}
+
+TEST_F(BrowseForFolderTest, TheFolderInHandShowsAsTheStatusText) {
+  Os().directories.MakeDirectory(Path("inner"));
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    emit files->directoryEntered(QString::fromStdString(ToHostPath(Path("inner"))));
+    EXPECT_EQ(Control<QLabel>(dialog, "lblStatus")->text().toStdString(), Path("inner"));
+    dialog->reject();
+  });
+  BrowseForFolder(nullptr, "T", folder().Path(), true, {});
+}
+
+}  // namespace
+}  // namespace logchecker
