@@ -8,10 +8,16 @@
 #include "common/UserInterface.h"
 #include "common/ui/StationQString.h"
 #include "dialogs/ui/HostFolder.h"
+#include "platform/HostPaths.h"
 
 namespace logchecker {
 
 namespace {
+
+// As the host has it: it may be there in another letter case, and opening it will find it then.
+QFileInfo FactsOf(const std::string& stationPath) {
+  return QFileInfo(QString::fromStdString(ToHostPath(stationPath)));
+}
 
 bool HasWildcard(const QString& name) { return name.contains('*') || name.contains('?'); }
 
@@ -54,8 +60,19 @@ void SaveDialog::accept() {
     return;
   }
   const QStringList files = selectedFiles();
-  if (!files.isEmpty() && Refuses(files.constFirst())) return;
+  if (!files.isEmpty() && (EntersFolder(files.constFirst()) || Refuses(files.constFirst()))) return;
   QFileDialog::accept();
+}
+
+// A folder whose name was typed in another letter case is entered as by its own name.
+bool SaveDialog::EntersFolder(const QString& file) {
+  std::string stationPath;
+  if (QFileInfo::exists(file) || !FromQString(file, &stationPath)) return false;
+  const QFileInfo facts = FactsOf(stationPath);
+  if (!facts.isDir()) return false;
+  setDirectory(facts.absoluteFilePath());
+  if (auto* name = findChild<QLineEdit*>("fileNameEdit")) name->clear();
+  return true;
 }
 
 bool SaveDialog::Refuses(const QString& file) {
@@ -66,7 +83,7 @@ bool SaveDialog::Refuses(const QString& file) {
          MessageIcon::kExclamation, MessageButtons::kOk, kProgramTitle});
     return true;
   }
-  const QFileInfo facts(file);
+  const QFileInfo facts = FactsOf(stationPath);
   if (facts.isDir()) return false;
   if (facts.exists() && !overwritePrompt_) return false;
   if (facts.exists()) {

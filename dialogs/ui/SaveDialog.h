@@ -13,7 +13,8 @@ struct FileFilter {
   QString pattern;  // of the names that it shows
 };
 
-// Asks before it replaces a file. A name with a wildcard filters the list and saves nothing.
+// Asks before it replaces a file, which is there when opening the name would find it: in whatever
+// letter case. A name with a wildcard filters the list and saves nothing.
 class SaveDialog : public QFileDialog {
   Q_OBJECT
 
@@ -36,6 +37,7 @@ class SaveDialog : public QFileDialog {
   void accept() override;
 
  private:
+  bool EntersFolder(const QString& file);
   bool Refuses(const QString& file);
   bool Agrees(const QString& question);
 

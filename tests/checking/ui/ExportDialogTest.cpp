@@ -5,6 +5,7 @@
 #include <QTimer>
 #include <QToolButton>
 #include <algorithm>
+#include <filesystem>
 
 #include "checking/ExportFolder.h"
 #include "checking/ui/frmCheckBreaks.h"
@@ -120,6 +121,42 @@ TEST_F(ExportDialogTest, ASecondExportOffersTheSameFileAndAsksBeforeItReplacesIt
   EXPECT_EQ(folder().ReadFile("report.CSV"), "old");
   SaveAs("report.CSV");
   EXPECT_NE(folder().ReadFile("report.CSV"), "old");
+}
+
+TEST_F(ExportDialogTest, AFileIsThereInWhateverLetterCaseItIsTyped) {
+  Check();
+  folder().WriteFile("report.csv", "old");
+  for (const char* name : {"report.CSV", "REPORT", "Report.Csv"}) {
+    DialogScript script([&](QDialog* dialog) {
+      Name(dialog)->setText(name);
+      QTest::keyClick(Name(dialog), Qt::Key_Return);
+      QTimer::singleShot(0, dialog, &QDialog::reject);
+    });
+    script.Answer(QMessageBox::No);
+    Save();
+    EXPECT_EQ(script.Texts(), QStringList("report.csv already exists.\n\nReplace it?")) << name;
+    EXPECT_EQ(folder().ReadFile("report.csv"), "old") << name;
+  }
+  SaveAs("report.CSV");
+  EXPECT_NE(folder().ReadFile("report.csv"), "old");
+  EXPECT_FALSE(folder().Exists("report.CSV"));
+}
+
+TEST_F(ExportDialogTest, AFolderIsEnteredInWhateverLetterCaseItIsTyped) {
+  Check();
+  std::filesystem::create_directory(folder().Path("reports"));
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    files->setDefaultSuffix("");
+    Name(dialog)->setText("REPORTS");
+    QTest::keyClick(Name(dialog), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(files->directory().canonicalPath().toStdString(),
+              ToHostPath(folder().Path("reports")));
+    dialog->reject();
+  });
+  Save();
+  EXPECT_TRUE(ui.messages.empty());
 }
 
 TEST_F(ExportDialogTest, ANewFileIsAskedForToo) {
