@@ -88,12 +88,7 @@ class ReplacedFile : public HostFile {
   int32_t ReadAt(int64_t, void*, size_t, size_t*) override { return kBadFileNumber; }
   int32_t WriteAt(int64_t, const void*, size_t) override { return kBadFileNumber; }
   int32_t Append(const void* data, size_t size) override { return replacement_.Append(data, size); }
-  int32_t Length(int64_t* length) override {
-    struct stat facts {};
-    if (fstat(replacement_.descriptor(), &facts) != 0) return kDeviceIoError;
-    *length = facts.st_size;
-    return kNoError;
-  }
+  int32_t Length(int64_t* length) override { return replacement_.Length(length); }
   int32_t Commit() override { return replacement_.Commit(); }
 
  private:

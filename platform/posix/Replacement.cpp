@@ -5,101 +5,131 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <climits>
-#include <cstdlib>
-#include <filesystem>
+#include <utility>
 
 #include "platform/ErrorNumbers.h"
+#include "platform/posix/FileAttributes.h"
+#include "platform/posix/FollowLinks.h"
+#include "platform/posix/InPlace.h"
 #include "platform/posix/PosixErrors.h"
 
 namespace logchecker {
 
 namespace {
 
-constexpr mode_t kPermissionBits = 07777;
+constexpr mode_t kNewFileMode = 0666;  // the user's mask and the folder's own list take from it
+constexpr mode_t kHiddenMode = 0600;   // until it has the old file's
 
-// Where the last link of a chain points, so that the rename replaces the file and not the link. The
-// result has a root, since the current directory may have changed by the time of the rename.
-std::string FollowLinks(const std::string& path) {
-  char real[PATH_MAX];
-  if (realpath(path.c_str(), real) != nullptr) return real;
-  std::string file = path;
-  char target[PATH_MAX];
-  const ssize_t length = readlink(path.c_str(), target, sizeof target);
-  if (length > 0) {
-    const size_t separator = path.find_last_of('/');
-    file.assign(target, static_cast<size_t>(length));
-    if (file[0] != '/' && separator != std::string::npos) {
-      file.insert(0, path, 0, separator + 1);
-    }
-  }
-  std::error_code ignored;
-  return std::filesystem::absolute(file, ignored).string();
+// Refused as opening the file itself would be. Being read too it can be put back after a failure. A
+// pipe that nobody reads is refused, and not waited for.
+int OpenToWrite(const std::string& path, bool isRegular) {
+  constexpr int kFlags = O_CLOEXEC | O_NONBLOCK;
+  const int both = isRegular ? open(path.c_str(), O_RDWR | kFlags) : -1;
+  return both >= 0 ? both : open(path.c_str(), O_WRONLY | kFlags);
 }
 
-mode_t DefaultMode() {
-  const mode_t mask = umask(0);
-  umask(mask);
-  return 0666 & ~mask;
+int WriteAll(int file, const char* next, size_t size) {
+  while (size > 0) {
+    const ssize_t written = write(file, next, size);
+    if (written < 0 && errno == EINTR) continue;
+    if (written <= 0) return written < 0 ? errno : ENOSPC;
+    next += written;
+    size -= static_cast<size_t>(written);
+  }
+  return 0;
+}
+
+// A folder where nobody may take another's file away, a file that is mounted on its own: the file
+// may be written all the same.
+bool MayBeWrittenInPlace(int error) {
+  return error == EPERM || error == EACCES || error == EBUSY || error == EXDEV || error == EROFS;
+}
+
+bool HasOtherNames(int file) {
+  struct stat facts {};
+  return fstat(file, &facts) != 0 || facts.st_nlink != 1;
 }
 
 }  // namespace
 
 Replacement::~Replacement() {
-  if (descriptor_ >= 0) close(descriptor_);
-  if (!temporary_.empty()) unlink(temporary_.c_str());
+  if (old_ >= 0) close(old_);
 }
 
 int32_t Replacement::Open(const std::string& hostPath) {
   target_ = FollowLinks(hostPath);
   struct stat facts {};
-  const bool exists = stat(target_.c_str(), &facts) == 0;
-  if (exists && S_ISDIR(facts.st_mode)) return kPathFileAccess;
-  if (exists) {
-    // Refused here, as opening the file itself would be; what is only a device is written in place.
-    // A pipe that nobody reads is refused too, and not waited for.
-    const int target = open(target_.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK);
-    if (target < 0) return ErrorFromErrno(errno, target_);
-    if (!S_ISREG(facts.st_mode)) {
-      fcntl(target, F_SETFL, fcntl(target, F_GETFL) & ~O_NONBLOCK);
-      descriptor_ = target;
-      return kNoError;
-    }
-    close(target);
+  if (stat(target_.c_str(), &facts) == 0) {
+    if (S_ISDIR(facts.st_mode)) return kPathFileAccess;
+    isRegular_ = S_ISREG(facts.st_mode);
+    return OpenOld();
   }
-  std::string name = target_;
-  const size_t separator = name.find_last_of('/');
-  name.insert(separator == std::string::npos ? 0 : separator + 1, ".");
-  name += ".XXXXXX";
-  descriptor_ = mkostemp(name.data(), O_CLOEXEC);
-  if (descriptor_ < 0) return ErrorFromErrno(errno, target_);
-  temporary_ = name;
-  fchmod(descriptor_, exists ? facts.st_mode & kPermissionBits : DefaultMode());
+  if (errno != ENOENT) return ErrorFromErrno(errno, target_);
+  return ErrorFromErrno(temporary_.Create(target_, kNewFileMode), target_);
+}
+
+int32_t Replacement::OpenOld() {
+  old_ = OpenToWrite(target_, isRegular_);
+  if (old_ < 0) return ErrorFromErrno(errno, target_);
+  if (!isRegular_) {
+    fcntl(old_, F_SETFL, fcntl(old_, F_GETFL) & ~O_NONBLOCK);
+    return kNoError;
+  }
+  if (HasOtherNames(old_)) return kNoError;
+  if (temporary_.Create(target_, kHiddenMode) != 0) return kNoError;
+  if (CopyAttributes(old_, temporary_.descriptor())) {
+    close(std::exchange(old_, -1));
+  } else {
+    temporary_.Discard();
+  }
   return kNoError;
 }
 
 int32_t Replacement::Append(const void* data, size_t size) {
-  const char* next = static_cast<const char*>(data);
-  while (size > 0) {
-    const ssize_t written = write(descriptor_, next, size);
-    if (written < 0 && errno == EINTR) continue;
-    if (written <= 0) return ErrorFromErrno(written < 0 ? errno : ENOSPC, target_);
-    next += written;
-    size -= static_cast<size_t>(written);
+  const char* bytes = static_cast<const char*>(data);
+  if (temporary_.exists()) {
+    return ErrorFromErrno(WriteAll(temporary_.descriptor(), bytes, size), target_);
   }
+  if (!isRegular_) return ErrorFromErrno(WriteAll(old_, bytes, size), target_);
+  bytes_.append(bytes, size);
+  return kNoError;
+}
+
+int32_t Replacement::Length(int64_t* length) const {
+  if (!temporary_.exists() && isRegular_) {
+    *length = static_cast<int64_t>(bytes_.size());
+    return kNoError;
+  }
+  struct stat facts {};
+  if (fstat(temporary_.exists() ? temporary_.descriptor() : old_, &facts) != 0) {
+    return kDeviceIoError;
+  }
+  *length = facts.st_size;
   return kNoError;
 }
 
 int32_t Replacement::Commit() {
-  int failure = 0;
+  if (temporary_.exists()) return ErrorFromErrno(CommitTemporary(), target_);
+  if (isRegular_) return ErrorFromErrno(CommitInPlace(bytes_), target_);
+  return ErrorFromErrno(close(std::exchange(old_, -1)) == 0 ? 0 : errno, target_);
+}
+
+int Replacement::CommitTemporary() {
   // What is renamed must be on the disk first, or a power cut could leave an empty file.
-  if (!temporary_.empty() && fsync(descriptor_) != 0) failure = errno;
-  if (close(descriptor_) != 0 && failure == 0) failure = errno;
-  descriptor_ = -1;
-  if (temporary_.empty()) return ErrorFromErrno(failure, target_);
-  if (failure == 0 && rename(temporary_.c_str(), target_.c_str()) != 0) failure = errno;
-  if (failure == 0) temporary_.clear();
-  return ErrorFromErrno(failure, target_);
+  if (fsync(temporary_.descriptor()) != 0) return errno;
+  const int error = temporary_.MoveTo(target_);
+  if (!MayBeWrittenInPlace(error) || !temporary_.exists()) return error;
+  old_ = OpenToWrite(target_, true);
+  if (old_ < 0) return error;
+  std::string bytes;
+  const int reading = ReadAll(temporary_.descriptor(), &bytes);
+  return reading != 0 ? reading : CommitInPlace(bytes);
+}
+
+int Replacement::CommitInPlace(const std::string& bytes) {
+  const int error = WriteInPlace(old_, bytes);
+  const int closing = close(std::exchange(old_, -1)) == 0 ? 0 : errno;
+  return error != 0 ? error : closing;
 }
 
 int32_t ReplaceFile(const std::string& hostPath, const std::string& bytes) {

@@ -1,0 +1,11 @@
+// What a program does when it is told to end from outside.
+#pragma once
+
+namespace logchecker {
+
+// From here on a program that is told to end (by a signal, or on Windows by its console) first
+// removes the temporary files of what it is writing, and then ends as it would have. A signal that
+// the program was started without stays without effect. Each main calls it first of all.
+void EndWithoutTemporaryFiles();
+
+}  // namespace logchecker

@@ -1,0 +1,95 @@
+#include "platform/posix/PosixEndings.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <atomic>
+#include <climits>
+#include <csignal>
+#include <cstring>
+
+#include "platform/Endings.h"
+
+namespace logchecker {
+
+namespace {
+
+// Those that end a program unless it says otherwise, and that come from outside or from a limit.
+constexpr int kEndings[] = {SIGHUP, SIGINT, SIGQUIT, SIGTERM, SIGXCPU, SIGXFSZ};
+
+enum SlotState { kFree, kBeingFilled, kHeld, kTaken };
+
+// The handler may run on another thread at any moment, so a slot changes hands by its state alone.
+struct Slot {
+  std::atomic<int> state{kFree};
+  pid_t owner = 0;  // a child that was forked off in between does not own the file
+  char path[PATH_MAX] = {};
+};
+
+constexpr int kSlots = 64;
+std::array<Slot, kSlots> gSlots;
+std::atomic<int> gUninterrupted(0);
+std::atomic<int> gPending(0);
+
+static_assert(std::atomic<int>::is_always_lock_free, "a handler must not wait for a lock");
+
+bool Change(Slot& slot, int from, int to) { return slot.state.compare_exchange_strong(from, to); }
+
+// Calls only what may be called in the middle of anything.
+extern "C" void EndProgram(int signal) {
+  if (gUninterrupted > 0) {
+    gPending = signal;
+    return;
+  }
+  const pid_t self = getpid();
+  for (Slot& slot : gSlots) {
+    if (Change(slot, kHeld, kTaken) && slot.owner == self) unlink(slot.path);
+  }
+  std::signal(signal, SIG_DFL);
+  std::raise(signal);
+}
+
+}  // namespace
+
+void VanishingFile::Hold(const std::string& path) {
+  Release();
+  if (path.size() >= PATH_MAX) return;
+  for (int i = 0; i < kSlots; ++i) {
+    Slot& slot = gSlots[static_cast<size_t>(i)];
+    if (!Change(slot, kFree, kBeingFilled)) continue;
+    std::memcpy(slot.path, path.c_str(), path.size() + 1);
+    slot.owner = getpid();
+    slot.state = kHeld;
+    slot_ = i;
+    return;
+  }
+}
+
+void VanishingFile::Release() {
+  if (slot_ == kNone) return;
+  // A slot that the handler has taken stays with it.
+  Change(gSlots[static_cast<size_t>(slot_)], kHeld, kFree);
+  slot_ = kNone;
+}
+
+UninterruptedWrite::UninterruptedWrite() { ++gUninterrupted; }
+
+UninterruptedWrite::~UninterruptedWrite() {
+  if (--gUninterrupted > 0) return;
+  const int signal = gPending.exchange(0);
+  if (signal != 0) std::raise(signal);
+}
+
+void EndWithoutTemporaryFiles() {
+  for (const int signal : kEndings) {
+    struct sigaction now {};
+    if (sigaction(signal, nullptr, &now) != 0 || now.sa_handler != SIG_DFL) continue;
+    struct sigaction ending {};
+    ending.sa_handler = EndProgram;
+    ending.sa_flags = SA_RESTART;
+    sigemptyset(&ending.sa_mask);
+    sigaction(signal, &ending, nullptr);
+  }
+}
+
+}  // namespace logchecker
