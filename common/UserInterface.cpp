@@ -1,5 +1,9 @@
 #include "common/UserInterface.h"
 
+#include <optional>
+
+#include "platform/Waiting.h"
+
 namespace logchecker {
 
 namespace {
@@ -24,11 +28,21 @@ UserInterface*& InForce() {
   return userInterface;
 }
 
+void ShowWait(bool waiting) {
+  static std::optional<BusyPointer> busy;
+  if (waiting) {
+    busy.emplace();
+  } else {
+    busy.reset();
+  }
+}
+
 }  // namespace
 
 UserInterface& Ui() { return *InForce(); }
 
 UserInterface& UseUserInterface(UserInterface& userInterface) {
+  UseWaitSign(ShowWait);
   UserInterface& before = *InForce();
   InForce() = &userInterface;
   return before;

@@ -43,7 +43,8 @@ class UserInterface {
 // The one in force. Before any is set, nobody is there: nothing is shown, and a question is
 // cancelled.
 UserInterface& Ui();
-// Puts another in force and returns the one that was. The caller keeps ownership.
+// Puts another in force and returns the one that was. The caller keeps ownership. While a call to
+// the system waits for another program, the one in force shows the hourglass.
 UserInterface& UseUserInterface(UserInterface& userInterface);
 
 // Shows the hourglass for as long as it lives, then the pointer that was.

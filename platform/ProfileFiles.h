@@ -1,10 +1,19 @@
 // Keys of sectioned text files ("profile files").
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace logchecker {
+
+// Whether a name or a value is a text that one line of a profile file can hold. A line break in it
+// would end the line, and what follows would be read as keys or as another section.
+inline bool FitsALine(std::string_view text) {
+  return std::none_of(text.begin(), text.end(),
+                      [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; });
+}
 
 // A bare file name means the Windows folder. Section and key names compare without regard to case,
 // and the first match wins. A file that can't be read counts as empty.
@@ -25,7 +34,8 @@ class ProfileFiles {
                          const std::string& file) = 0;
 
   // Writes one key, making file and section where they are missing. All other lines stay. The file
-  // is written whole or not at all. Returns an error number.
+  // is written whole or not at all. Returns an error number; kInvalidCall for a name or a value
+  // that does not fit a line.
   virtual int32_t WriteString(const std::string& section, const std::string& key,
                               const std::string& value, const std::string& file) = 0;
   virtual int32_t DeleteKey(const std::string& section, const std::string& key,

@@ -1,7 +1,5 @@
 #include "platform/posix/PosixProfileFiles.h"
 
-#include "platform/ErrorNumbers.h"
-#include "platform/posix/FolderLock.h"
 #include "platform/posix/ProfileStore.h"
 #include "platform/posix/StationPath.h"
 
@@ -60,32 +58,17 @@ int32_t PosixProfileFiles::GetInt(const std::string& section, const std::string&
 
 int32_t PosixProfileFiles::WriteString(const std::string& section, const std::string& key,
                                        const std::string& value, const std::string& file) {
-  const std::string path = ProfilePath(file);
-  const FolderLock lock(path);
-  ProfileText text;
-  if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
-  text.Set(section, key, value);
-  return WriteProfile(path, text);
+  return SetProfileKey(ProfilePath(file), section, key, value);
 }
 
 int32_t PosixProfileFiles::DeleteKey(const std::string& section, const std::string& key,
                                      const std::string& file) {
-  const std::string path = ProfilePath(file);
-  const FolderLock lock(path);
-  ProfileText text;
-  if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
-  if (text.Find(section, key) == nullptr) return kNoError;
-  text.DeleteKey(section, key);
-  return WriteProfile(path, text);
+  bool wasThere = false;
+  return DeleteProfileKey(ProfilePath(file), section, key, &wasThere);
 }
 
 int32_t PosixProfileFiles::DeleteSection(const std::string& section, const std::string& file) {
-  const std::string path = ProfilePath(file);
-  const FolderLock lock(path);
-  ProfileText text;
-  if (!ReadProfileForChange(path, &text)) return kPathFileAccess;
-  text.DeleteSection(section);
-  return WriteProfile(path, text);
+  return DeleteProfileSection(ProfilePath(file), section);
 }
 
 }  // namespace logchecker

@@ -79,10 +79,7 @@ uint32_t NumberOf(const std::string& bytes) {
 }
 
 int32_t WriteOne(const std::string& section, const std::string& name, const std::string& value) {
-  ProfileText text;
-  if (!ReadProfileForChange(RegistryFile(), &text)) return kWriteFault;
-  text.Set(section, name, value);
-  return WriteProfile(RegistryFile(), text) == kNoError ? 0 : kWriteFault;
+  return SetProfileKey(RegistryFile(), section, name, value) == kNoError ? 0 : kWriteFault;
 }
 
 }  // namespace
@@ -162,11 +159,11 @@ int32_t PosixRegistry::SetValue(RegistryKey key, const std::string& name, uint32
 int32_t PosixRegistry::DeleteValue(RegistryKey key, const std::string& name) {
   const auto section = openKeys_.find(key);
   if (section == openKeys_.end()) return kInvalidHandle;
-  ProfileText text;
-  if (!ReadProfileForChange(RegistryFile(), &text)) return kWriteFault;
-  if (text.Find(section->second, "v" + Escape(name)) == nullptr) return kNotFound;
-  text.DeleteKey(section->second, "v" + Escape(name));
-  return WriteProfile(RegistryFile(), text) == kNoError ? 0 : kWriteFault;
+  bool wasThere = false;
+  const int32_t error =
+      DeleteProfileKey(RegistryFile(), section->second, "v" + Escape(name), &wasThere);
+  if (error != kNoError) return kWriteFault;
+  return wasThere ? 0 : kNotFound;
 }
 
 }  // namespace logchecker

@@ -9,6 +9,9 @@
 #include <filesystem>
 #include <map>
 
+#include "platform/ErrorNumbers.h"
+#include "platform/ProfileFiles.h"
+#include "platform/posix/FolderLock.h"
 #include "platform/posix/Replacement.h"
 #include "platform/posix/StationPath.h"
 
@@ -75,7 +78,10 @@ const ProfileText& ReadProfile(const std::string& hostPath) {
   return known.text;
 }
 
-bool ReadProfileForChange(const std::string& hostPath, ProfileText* text) {
+namespace {
+
+// The file's text for a change; false when it is there but can't be read.
+bool ReadForChange(const std::string& hostPath, ProfileText* text) {
   std::string bytes;
   if (ReadBytes(hostPath, &bytes)) {
     *text = ProfileText(bytes);
@@ -87,8 +93,6 @@ bool ReadProfileForChange(const std::string& hostPath, ProfileText* text) {
   return missing || S_ISCHR(facts.st_mode);
 }
 
-namespace {
-
 // Windows always has its folder; here the first file that is written into it makes it.
 void MakeWindowsFolderOf(const std::string& hostPath) {
   const std::string& folder = HostWindowsFolder();
@@ -97,12 +101,48 @@ void MakeWindowsFolderOf(const std::string& hostPath) {
   std::filesystem::create_directories(folder, ignored);
 }
 
+// Read, changed and written with no other program in between. `change` is false where there is
+// nothing to change.
+template <typename Change>
+int32_t ChangeProfile(const std::string& hostPath, const Change& change) {
+  const FolderLock lock(hostPath);
+  ProfileText text;
+  if (!ReadForChange(hostPath, &text)) return kPathFileAccess;
+  if (!change(text)) return kNoError;
+  KnownProfiles().erase(hostPath);
+  return ReplaceFile(hostPath, text.Bytes());
+}
+
 }  // namespace
 
-int32_t WriteProfile(const std::string& hostPath, const ProfileText& text) {
-  KnownProfiles().erase(hostPath);
+int32_t SetProfileKey(const std::string& hostPath, const std::string& section,
+                      const std::string& key, const std::string& value) {
+  if (!FitsALine(section) || !FitsALine(key) || !FitsALine(value)) return kInvalidCall;
+  // Ahead of the lock, which lies on it.
   MakeWindowsFolderOf(hostPath);
-  return ReplaceFile(hostPath, text.Bytes());
+  return ChangeProfile(hostPath, [&](ProfileText& text) {
+    text.Set(section, key, value);
+    return true;
+  });
+}
+
+int32_t DeleteProfileKey(const std::string& hostPath, const std::string& section,
+                         const std::string& key, bool* wasThere) {
+  if (!FitsALine(section) || !FitsALine(key)) return kInvalidCall;
+  return ChangeProfile(hostPath, [&](ProfileText& text) {
+    *wasThere = text.Find(section, key) != nullptr;
+    text.DeleteKey(section, key);
+    return *wasThere;
+  });
+}
+
+int32_t DeleteProfileSection(const std::string& hostPath, const std::string& section) {
+  if (!FitsALine(section)) return kInvalidCall;
+  return ChangeProfile(hostPath, [&](ProfileText& text) {
+    const std::string before = text.Bytes();
+    text.DeleteSection(section);
+    return text.Bytes() != before;
+  });
 }
 
 }  // namespace logchecker

@@ -12,11 +12,14 @@ namespace logchecker {
 // until the next call.
 const ProfileText& ReadProfile(const std::string& hostPath);
 
-// Writes the file whole or not at all. Returns an error number.
-int32_t WriteProfile(const std::string& hostPath, const ProfileText& text);
-
-// The file's text for a change; false when it is there but can't be read, since a change would then
-// drop what it holds.
-bool ReadProfileForChange(const std::string& hostPath, ProfileText* text);
+// Each changes the file under its lock, whole or not at all, and returns an error number:
+// kPathFileAccess where the file is there but can't be read, since a change would then drop what it
+// holds, and kInvalidCall for a text that a line can't hold. What is missing is no error to those
+// that delete; `wasThere` says whether it was.
+int32_t SetProfileKey(const std::string& hostPath, const std::string& section,
+                      const std::string& key, const std::string& value);
+int32_t DeleteProfileKey(const std::string& hostPath, const std::string& section,
+                         const std::string& key, bool* wasThere);
+int32_t DeleteProfileSection(const std::string& hostPath, const std::string& section);
 
 }  // namespace logchecker

@@ -1,3 +1,5 @@
+#include <string_view>
+
 #include "platform/windows/WindowsApi.h"
 #include "platform/windows/WindowsFile.h"
 #include "platform/windows/WindowsParts.h"
@@ -6,9 +8,14 @@ namespace logchecker {
 
 namespace {
 
+std::string_view TextOrNone(const char* text) { return text == nullptr ? "" : text; }
+
 // A missing value deletes the key, a missing key the section.
 int32_t Write(const std::string& section, const char* key, const char* value,
               const std::string& file) {
+  for (const std::string_view text :
+       {std::string_view(section), TextOrNone(key), TextOrNone(value)})
+    if (!FitsALine(text)) return kInvalidCall;
   const std::string path = ProfilePath(file);
   if (WritePrivateProfileStringA(section.c_str(), key, value, path.c_str())) return kNoError;
   return OpenErrorNumber(path);

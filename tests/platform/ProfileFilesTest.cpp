@@ -395,6 +395,21 @@ TEST_F(ProfileFilesTest, AWrittenValueIsReadAsTheFileHoldsIt) {
   }
 }
 
+TEST_F(ProfileFilesTest, WhatALineCannotHoldIsRefusedAndTheFileStays) {
+  const std::string bytes = "[General]\r\nSplitName1=East\r\nSplitName2=West\r\n";
+  const std::string file = NewFile(bytes);
+  for (const char* text : {"East\n[Oops]\nWest", "East\r\n[Oops]\r\nWest", "\n", "a\rb", "a\x1Bz",
+                           "a\tb", "a\x7F", "\x01"}) {
+    EXPECT_EQ(profiles_.WriteString("General", "SplitName1", text, file), kInvalidCall) << text;
+    EXPECT_EQ(profiles_.WriteString("General", text, "v", file), kInvalidCall) << text;
+    EXPECT_EQ(profiles_.WriteString(text, "SplitName1", "v", file), kInvalidCall) << text;
+    EXPECT_EQ(profiles_.DeleteKey(text, "SplitName1", file), kInvalidCall) << text;
+    EXPECT_EQ(profiles_.DeleteKey("General", text, file), kInvalidCall) << text;
+    EXPECT_EQ(profiles_.DeleteSection(text, file), kInvalidCall) << text;
+    EXPECT_EQ(folder_.ReadFile("file1.ini"), bytes) << text;
+  }
+}
+
 TEST_F(ProfileFilesTest, BlanksAroundNamesAreNotWritten) {
   const std::string file = folder_.Path("new.ini");
   EXPECT_EQ(profiles_.WriteString(" s ", " k ", "v", file), kNoError);

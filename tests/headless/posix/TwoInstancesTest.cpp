@@ -82,11 +82,11 @@ TEST_F(TwoInstances, BothFillAMissingListFileAndItIsWhole) {
   }
 }
 
-TEST_F(TwoInstances, SettingsThatBothWriteKeepEveryKey) {
-  const TempFolder& windows = folder_.folder();
-  const std::string head = "; ours\r\n[General]\r\n";
-  windows.WriteFile("VELKLT.INI", head);
-  constexpr int kWrites = 100;
+constexpr int kWrites = 100;
+
+// Two processes at once, each with every second number from 0 to 2 * kWrites - 1.
+template <typename Write>
+void WriteInTwoProcesses(const Write& write) {
   std::array<pid_t, 2> writers{};
   for (size_t n = 0; n < writers.size(); ++n) {
     writers[n] = fork();
@@ -94,9 +94,7 @@ TEST_F(TwoInstances, SettingsThatBothWriteKeepEveryKey) {
     if (writers[n] != 0) continue;
     bool written = true;
     for (size_t i = n; i < writers.size() * kWrites; i += writers.size()) {
-      written = Os().profiles.WriteString("General", "Key" + std::to_string(i), std::to_string(i),
-                                          "VELKLT.INI") == kNoError &&
-                written;
+      written = write(n, std::to_string(i)) && written;
     }
     _exit(written ? 0 : 1);
   }
@@ -105,12 +103,56 @@ TEST_F(TwoInstances, SettingsThatBothWriteKeepEveryKey) {
     ASSERT_EQ(writer, waitpid(writer, &status, 0));
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0);
   }
+}
+
+TEST_F(TwoInstances, SettingsThatBothWriteKeepEveryKey) {
+  const TempFolder& windows = folder_.folder();
+  const std::string head = "; ours\r\n[General]\r\n";
+  windows.WriteFile("VELKLT.INI", head);
+  WriteInTwoProcesses([](size_t /*writer*/, const std::string& number) {
+    return Os().profiles.WriteString("General", "Key" + number, number, "VELKLT.INI") == kNoError;
+  });
   const std::string bytes = windows.ReadFile("VELKLT.INI");
   EXPECT_EQ(0U, bytes.find(head));
   EXPECT_EQ(2 + 2 * kWrites, std::count(bytes.begin(), bytes.end(), '\n'));
-  for (size_t i = 0; i < writers.size() * kWrites; ++i) {
+  for (int i = 0; i < 2 * kWrites; ++i) {
     const std::string number = std::to_string(i);
     EXPECT_NE(std::string::npos, bytes.find("\r\nKey" + number + "=" + number + "\r\n")) << i;
+  }
+}
+
+TEST_F(TwoInstances, SettingsThatOneWritesThroughALinkKeepEveryKey) {
+  const TempFolder shared;
+  shared.WriteFile("VELMAR.INI", "[General]\r\n");
+  const TempFolder& windows = folder_.folder();
+  std::filesystem::create_symlink(shared.Path("VELMAR.INI"), windows.Path("VELMAR.INI"));
+  const std::array<std::string, 2> ways = {"VELMAR.INI", shared.Path("VELMAR.INI")};
+  WriteInTwoProcesses([&](size_t writer, const std::string& number) {
+    return Os().profiles.WriteString("General", "Key" + number, number, ways[writer]) == kNoError;
+  });
+  const std::string bytes = shared.ReadFile("VELMAR.INI");
+  EXPECT_EQ(1 + 2 * kWrites, std::count(bytes.begin(), bytes.end(), '\n'));
+  EXPECT_TRUE(std::filesystem::is_symlink(windows.Path("VELMAR.INI")));
+}
+
+TEST_F(TwoInstances, RegistryValuesThatBothWriteAreAllThere) {
+  RegistryCalls& registry = Os().registry;
+  WriteInTwoProcesses([&](size_t writer, const std::string& number) {
+    RegistryKey key = 0;
+    const bool written =
+        registry.CreateKey(kCurrentUserRoot, "SOFTWARE\\Of" + std::to_string(writer), &key) == 0 &&
+        registry.SetValue(key, "Value" + number, kRegistryText, number) == 0;
+    registry.CloseKey(key);
+    return written;
+  });
+  for (int i = 0; i < 2 * kWrites; ++i) {
+    RegistryKey key = 0;
+    const std::string path = "SOFTWARE\\Of" + std::to_string(i % 2);
+    ASSERT_EQ(0, registry.OpenKey(kCurrentUserRoot, path, true, &key));
+    uint32_t type = 0;
+    uint32_t size = 0;
+    EXPECT_EQ(0, registry.QueryType(key, "Value" + std::to_string(i), &type, &size)) << i;
+    registry.CloseKey(key);
   }
 }
 

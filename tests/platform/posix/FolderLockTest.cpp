@@ -2,12 +2,17 @@
 #include "platform/posix/FolderLock.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <chrono>
+#include <filesystem>
 #include <future>
 #include <memory>
+#include <vector>
 
+#include "platform/Waiting.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/posix/AsUser.h"
 
 namespace logchecker {
 namespace {
@@ -65,6 +70,63 @@ TEST_F(FolderLockTest, AfterAWaitInVainTheNextLooksOnceUntilTheFolderIsFree) {
 
 TEST_F(FolderLockTest, AFolderThatIsMissingIsNotWaitedFor) {
   EXPECT_FALSE(FolderLock(folder_.Path("none") + "/a.ini", kAnHour).held());
+}
+
+TEST_F(FolderLockTest, EveryWayToAFileLeadsToOneLock) {
+  const TempFolder real;
+  real.WriteFile("a.ini", "");
+  std::filesystem::create_symlink(real.Path("a.ini"), folder_.Path("link.ini"));
+  std::filesystem::create_symlink("link.ini", folder_.Path("second.ini"));
+  std::filesystem::create_symlink(real.Path("later.ini"), folder_.Path("dangling.ini"));
+  const TempFolder third;
+  std::filesystem::create_hard_link(real.Path("a.ini"), third.Path("other.ini"));
+  const FolderLock first(folder_.Path("second.ini"));
+  EXPECT_TRUE(first.held());
+  for (const std::string& path : {real.Path("a.ini"), real.Path("b.ini"), folder_.Path("link.ini"),
+                                  folder_.Path("dangling.ini"), third.Path("other.ini")}) {
+    EXPECT_FALSE(FolderLock(path, 0).held()) << path;
+  }
+  EXPECT_TRUE(FolderLock(folder_.Path("free.ini"), 0).held());
+}
+
+TEST_F(FolderLockTest, AFileIsLockedWhereItsFolderCantBe) {
+  folder_.WriteFile("a.ini", "");
+  chmod(folder_.Path().c_str(), 0311);
+  chmod(folder_.Path("a.ini").c_str(), 0644);
+  EXPECT_EQ(0, AsUser(kBob, [this] {
+              const FolderLock first(folder_.Path("a.ini"));
+              return first.held() && !FolderLock(folder_.Path("a.ini"), 0).held() ? 0 : 1;
+            }));
+  chmod(folder_.Path().c_str(), 0755);
+}
+
+TEST_F(FolderLockTest, UsersShareTheLock) {
+  folder_.WriteFile("a.ini", "");
+  GiveTo(kAlice, folder_.Path("a.ini").c_str());
+  chmod(folder_.Path("a.ini").c_str(), 0664);
+  chmod(folder_.Path().c_str(), 0755);
+  const auto held = [this] { return FolderLock(folder_.Path("a.ini"), 0).held() ? 1 : 0; };
+  EXPECT_EQ(1, AsUser(kAlice, held));
+  EXPECT_EQ(1, AsUser(kBob, held));
+  const FolderLock first(folder_.Path("a.ini"));
+  EXPECT_EQ(0, AsUser(kAlice, held));
+  EXPECT_EQ(0, AsUser(kBob, held));
+}
+
+std::vector<bool>& Signs() {
+  static std::vector<bool> signs;
+  return signs;
+}
+
+TEST_F(FolderLockTest, AWaitThatCanBeNoticedGivesASign) {
+  const WaitSign before = UseWaitSign([](bool waiting) { Signs().push_back(waiting); });
+  auto first = std::make_unique<FolderLock>(folder_.Path("a.ini"));
+  EXPECT_TRUE(Signs().empty());
+  WaitInVain(200);
+  EXPECT_EQ(std::vector<bool>({true, false}), Signs());
+  WaitInVain(200);  // looks once
+  EXPECT_EQ(2U, Signs().size());
+  UseWaitSign(before);
 }
 
 }  // namespace
