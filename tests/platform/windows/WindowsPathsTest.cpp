@@ -67,6 +67,35 @@ TEST_F(WindowsPathsTest, RandomAccessFallsBackToReading) {
   EXPECT_EQ(folder_.ReadFile("file.lst"), "AAAABBBB");
 }
 
+TEST_F(WindowsPathsTest, EveryNameOfAFileHasTheNewContent) {
+  folder_.WriteFile("one.csv", "old and longer");
+  const std::string path = folder_.Path("one.csv");
+  ASSERT_TRUE(CreateHardLinkA(folder_.Path("two.csv").c_str(), path.c_str(), nullptr));
+  for (const char* content : {"new", "newer, and longer than it was"}) {
+    const int16_t number = Number();
+    EXPECT_EQ(files_.OpenForOutput(number, path), kNoError);
+    EXPECT_EQ(files_.Write(number, content), kNoError);
+    EXPECT_EQ(files_.Close(number), kNoError);
+    EXPECT_EQ(folder_.ReadFile("two.csv"), content);
+  }
+  EXPECT_EQ(folder_.Count(), 2U);
+}
+
+TEST_F(WindowsPathsTest, WhatAKilledProgramLeftGoesAndWhatIsBeingWrittenStays) {
+  folder_.WriteFile("~logchecker-0123abcd.new", "left");
+  const std::string path = folder_.Path("out.csv");
+  const int16_t slow = Number();
+  EXPECT_EQ(files_.OpenForOutput(slow, path), kNoError);
+  EXPECT_FALSE(folder_.Exists("~logchecker-0123abcd.new"));
+  EXPECT_EQ(files_.Write(slow, "slow"), kNoError);
+  const int16_t quick = Number();
+  EXPECT_EQ(files_.OpenForOutput(quick, path), kNoError);
+  EXPECT_EQ(files_.Close(quick), kNoError);
+  EXPECT_EQ(files_.Close(slow), kNoError);
+  EXPECT_EQ(folder_.ReadFile("out.csv"), "slow");
+  EXPECT_EQ(folder_.Count(), 1U);
+}
+
 TEST_F(WindowsPathsTest, OnlyAPathWithADriveHasOne) {
   Directories& directories = Os().directories;
   EXPECT_EQ(directories.ChangeDrive("C:\\logs"), kNoError);
