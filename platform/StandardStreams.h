@@ -6,6 +6,12 @@
 
 namespace logchecker {
 
+// Called first of all by a program. Sees to it that no file which the program opens later takes the
+// place of a standard stream that it was started without: a report would go into that file. A
+// stream that was closed stays one that can't be written, and standard input one that is at its
+// end.
+void HoldStandardStreams();
+
 // Writes bytes as they are, with no change of line ends. False when not all could be written.
 bool WriteStandardOutput(std::string_view bytes);
 

@@ -4,8 +4,10 @@
 #include <vector>
 
 #include "headless/Logcheck.h"
+#include "platform/StandardStreams.h"
 
 int main(int argc, char** argv) {
+  logchecker::HoldStandardStreams();
   const std::vector<std::string> arguments(argv + 1, argv + argc);
   // Leaves at once: all files are closed by then, and what is left is memory.
   std::_Exit(logchecker::RunLogcheck(arguments));

@@ -1,4 +1,8 @@
 // The desktop.
+#include "platform/StandardStreams.h"
 #include "shell/ui/Desktop.h"
 
-int main(int argc, char** argv) { return logchecker::RunDesktop(argc, argv); }
+int main(int argc, char** argv) {
+  logchecker::HoldStandardStreams();
+  return logchecker::RunDesktop(argc, argv);
+}

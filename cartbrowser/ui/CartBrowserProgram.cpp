@@ -49,6 +49,11 @@ int Refuse(const std::string& line) {
   return kTrouble;
 }
 
+// The exit code of a program that has only this left to say.
+int Print(const std::string& text) {
+  return WriteStandardOutput(text) ? kChosen : Refuse("standard output could not be written");
+}
+
 // What is said instead of running; nothing when the program is to run. Needs no screen.
 std::optional<std::string> Information(const std::vector<std::string>& arguments) {
   const auto given = [&](const char* name) {
@@ -108,7 +113,7 @@ int Browse(const std::string& number, const ShowNotesWindow& showNotes) {
   browser.show();
   QApplication::exec();
   if (choice.cart <= 0) return kNothingChosen;
-  return WriteStandardOutput(std::to_string(choice.cart) + "\n") ? kChosen : kTrouble;
+  return Print(std::to_string(choice.cart) + "\n");
 }
 
 [[noreturn]] void Stop(const RunTimeError& error, const CartBrowserParts& parts) {
@@ -138,9 +143,7 @@ int Run(const Arguments& arguments, const CartBrowserParts& parts) {
 }  // namespace
 
 int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
-  if (const auto information = Information({argv + 1, argv + argc})) {
-    return WriteStandardOutput(*information) ? kChosen : kTrouble;
-  }
+  if (const auto information = Information({argv + 1, argv + argc})) return Print(*information);
   Arguments arguments;
   const std::string wrong = Parse({argv + 1, argv + argc}, &arguments);
   if (!wrong.empty()) return Refuse(wrong);
