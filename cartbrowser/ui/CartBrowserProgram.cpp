@@ -20,6 +20,7 @@
 #include "common/ui/StopProgram.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
+#include "platform/StationText.h"
 
 namespace logchecker {
 
@@ -44,7 +45,8 @@ struct Arguments {
   std::string number;
 };
 
-int Refuse(const std::string& line) {
+int Refuse(std::string line) {
+  std::replace(line.begin(), line.end(), '\n', ' ');
   WriteStandardError("cartbrowser: " + line + "\n");
   return kTrouble;
 }
@@ -78,7 +80,9 @@ std::string Parse(const std::vector<std::string>& given, Arguments* arguments) {
     } else if (!argument.empty() && IsTextOfKind(argument, kDigits) && arguments->number.empty()) {
       arguments->number = argument;
     } else {
-      return "unknown argument " + argument + "; see cartbrowser --help";
+      std::string text;
+      FromArgument(argument, &text);
+      return "unknown argument " + text + "; see cartbrowser --help";
     }
   }
   return "";

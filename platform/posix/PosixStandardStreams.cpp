@@ -40,7 +40,11 @@ void HoldStandardStreams() {
 bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STDOUT_FILENO, bytes); }
 
 void WriteStandardError(std::string_view stationText) {
-  WriteWhole(STDERR_FILENO, ToUtf8(stationText));
+  WriteWhole(STDERR_FILENO, ToUtf8(WithoutControls(stationText)));
+}
+
+void OverwriteTerminalLine(std::string_view stationText) {
+  WriteWhole(STDERR_FILENO, "\r" + ToUtf8(WithoutControls(stationText)) + "\r");
 }
 
 bool StandardErrorIsTerminal() { return isatty(STDERR_FILENO) == 1; }

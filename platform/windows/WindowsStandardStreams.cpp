@@ -1,4 +1,5 @@
 #include "platform/StandardStreams.h"
+#include "platform/StationText.h"
 #include "platform/windows/WindowsApi.h"
 
 namespace logchecker {
@@ -33,7 +34,13 @@ void HoldStandardStreams() {
 
 bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STD_OUTPUT_HANDLE, bytes); }
 
-void WriteStandardError(std::string_view stationText) { WriteWhole(STD_ERROR_HANDLE, stationText); }
+void WriteStandardError(std::string_view stationText) {
+  WriteWhole(STD_ERROR_HANDLE, WithoutControls(stationText));
+}
+
+void OverwriteTerminalLine(std::string_view stationText) {
+  WriteWhole(STD_ERROR_HANDLE, "\r" + WithoutControls(stationText) + "\r");
+}
 
 bool StandardErrorIsTerminal() {
   DWORD mode = 0;
