@@ -167,6 +167,10 @@ std::optional<ParsedArguments> TakeTexts(const RawTexts& raw, Options& options) 
     options.day = ReadDate(raw.date);
     if (!options.day) return Refuse(Quoted(raw.date) + " is no date of the form YYYY-MM-DD");
   }
+  const int32_t first = options.day.value_or(Today() + 1);
+  if (first > kLastDay - (options.days - 1)) {
+    return Refuse("--days " + std::to_string(options.days) + " goes beyond 9999-12-31");
+  }
   options.format = raw.format == "csv"    ? ReportFormat::kCsv
                    : raw.format == "json" ? ReportFormat::kJson
                                           : ReportFormat::kText;

@@ -13,7 +13,9 @@
 #include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
 #include "common/TextHelpers.h"
+#include "common/UnreadableSettings.h"
 #include "common/VersionData.h"
+#include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
@@ -90,7 +92,9 @@ std::string Parse(const std::vector<std::string>& given, Arguments* arguments) {
 
 // A store that can't be opened is asked for once.
 bool OpenStore() {
+  if (TellIfUnreadable(kFamilySettingsFile)) return false;
   LoadAudioSettings(kFamilySettingsFile, "");
+  if (TellIfUnreadable(AudiowallSettingsFile())) return false;
   if (OpenAudiowall(0, false) == 0) return true;
   {
     frmCartLocations dialog;
@@ -120,11 +124,13 @@ int Browse(const std::string& number, const ShowNotesWindow& showNotes) {
   return Print(std::to_string(choice.cart) + "\n");
 }
 
+void CloseStore(const CartBrowserParts& parts) {
+  CloseAudiowall();
+  parts.CloseFiles();
+}
+
 [[noreturn]] void Stop(const RunTimeError& error, const CartBrowserParts& parts) {
-  StopProgram(error, [&parts] {
-    CloseAudiowall();
-    parts.CloseFiles();
-  });
+  StopProgram(error, [&parts] { CloseStore(parts); });
 }
 
 int Run(const Arguments& arguments, const CartBrowserParts& parts) {
@@ -138,8 +144,7 @@ int Run(const Arguments& arguments, const CartBrowserParts& parts) {
     parts.LoadSettings();
     result = OpenStore() ? Browse(arguments.number, parts.ShowNotes)
                          : Refuse("the cart store can't be opened");
-    CloseAudiowall();
-    parts.CloseFiles();
+    CloseStore(parts);
   });
   return result;
 }
@@ -151,7 +156,13 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   Arguments arguments;
   const std::string wrong = Parse({argv + 1, argv + argc}, &arguments);
   if (!wrong.empty()) return Refuse(wrong);
+  // Each picture of the search's animation would be made by way of the display's graphics library,
+  // which does not survive the display.
+  constexpr char kGraphics[] = "QT_XCB_GL_INTEGRATION";
+  if (!qEnvironmentVariableIsSet(kGraphics)) qputenv(kGraphics, "none");
+  DisplayWatch display("cartbrowser", [&parts] { CloseStore(parts); });
   const QApplication application(argc, argv);
+  display.DisplayIsThere();
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);
   QApplication::setWindowIcon(IconNamed("program"));
