@@ -6,6 +6,7 @@
 #include "cartstore/FamilySettings.h"
 #include "common/GeneralSettings.h"
 #include "common/Numbers.h"
+#include "common/UnreadableSettings.h"
 #include "platform/Platform.h"
 
 namespace logchecker {
@@ -54,7 +55,10 @@ void LoadAudioSettings(const std::string& iniFile, const std::string& /*registry
   gNumberOfCarts = profiles.GetInt("Audiowall", "NoCarts", kDefaultNumberOfCarts, storeFile);
   const bool storeHasLocation = !PartEntry(1).Path.empty();
   ReadStoreSettings(storeFile, storeHasLocation);
-  if (storeHasLocation) UpgradeStore(storeFile);
+  // Settings that can't be read say neither how many carts there are nor which version it is.
+  const bool unreadable = !WhyUnreadable(storeFile).empty();
+  if (unreadable) gNumberOfCarts = 0;
+  if (storeHasLocation && !unreadable) UpgradeStore(storeFile);
   ReadDiscSettings(storeFile);
 }
 

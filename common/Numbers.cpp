@@ -124,6 +124,12 @@ int32_t ToInt32(double value) { return RoundInto<int32_t>(value); }
 
 int16_t ToInt16(double value) { return RoundInto<int16_t>(value); }
 
+int32_t ToNearestInt32(double value) {
+  constexpr double kLeast = std::numeric_limits<int32_t>::min();
+  constexpr double kMost = std::numeric_limits<int32_t>::max();
+  return ToInt32(value < kLeast ? kLeast : (value > kMost ? kMost : value));
+}
+
 int16_t ClampToInt16(int32_t value) {
   constexpr int32_t kLeast = std::numeric_limits<int16_t>::min();
   constexpr int32_t kMost = std::numeric_limits<int16_t>::max();

@@ -17,6 +17,9 @@ double RoundHalfEven(double value);
 int32_t ToInt32(double value);
 int16_t ToInt16(double value);
 
+// Rounded to a whole number, and the nearest one that the type holds where it is beyond.
+int32_t ToNearestInt32(double value);
+
 // The nearest value that a 16-bit integer holds: a setting out of its range stays out of every
 // range that is checked later.
 int16_t ClampToInt16(int32_t value);

@@ -154,11 +154,22 @@ std::string JoinArguments(const std::vector<std::string>& arguments) {
 
 ParsedArguments Refuse(const std::string& message) { return {std::nullopt, kTrouble, message}; }
 
+// An argument as the person typed it, for a message.
+std::string Quoted(const std::string& argument) {
+  std::string text;
+  FromArgument(argument, &text);
+  return '"' + text + '"';
+}
+
 // Settles what the texts mean; the refusal otherwise.
 std::optional<ParsedArguments> TakeTexts(const RawTexts& raw, Options& options) {
   if (!raw.date.empty()) {
     options.day = ReadDate(raw.date);
-    if (!options.day) return Refuse("\"" + raw.date + "\" is no date of the form YYYY-MM-DD");
+    if (!options.day) return Refuse(Quoted(raw.date) + " is no date of the form YYYY-MM-DD");
+  }
+  const int32_t first = options.day.value_or(Today() + 1);
+  if (first > kLastDay - (options.days - 1)) {
+    return Refuse("--days " + std::to_string(options.days) + " goes beyond 9999-12-31");
   }
   options.format = raw.format == "csv"    ? ReportFormat::kCsv
                    : raw.format == "json" ? ReportFormat::kJson
@@ -168,7 +179,7 @@ std::optional<ParsedArguments> TakeTexts(const RawTexts& raw, Options& options) 
   }
   for (const std::string& text : raw.carts) {
     int32_t number = 0;
-    if (!ReadNumber(text, &number)) return Refuse("\"" + text + "\" is no cart number");
+    if (!ReadNumber(text, &number)) return Refuse(Quoted(text) + " is no cart number");
     options.carts.push_back(number);
   }
   return std::nullopt;

@@ -70,12 +70,38 @@ Json DayJson(const DayReport& day) {
   return json;
 }
 
+// The library writes these as they are, which is good JSON; but a terminal that shows it would obey
+// them.
+std::string WithControlsEscaped(const std::string& utf8) {
+  constexpr char kDelete = '\x7F';
+  constexpr char kLead = '\xC2';  // of the characters 0x80 to 0xBF
+  constexpr char kLastControl = '\x9F';
+  constexpr char kDigits[] = "0123456789abcdef";
+  std::string escaped;
+  const auto escape = [&](char c) {
+    const auto code = static_cast<unsigned char>(c);
+    escaped += "\\u00";
+    escaped += kDigits[code >> 4U];
+    escaped += kDigits[code & 0x0FU];
+  };
+  for (size_t i = 0; i < utf8.size(); ++i) {
+    if (utf8[i] == kDelete) {
+      escape(utf8[i]);
+    } else if (utf8[i] == kLead && utf8[i + 1] <= kLastControl) {
+      escape(utf8[++i]);
+    } else {
+      escaped += utf8[i];
+    }
+  }
+  return escaped;
+}
+
 }  // namespace
 
 std::string JsonReport(const std::vector<DayReport>& days) {
   Json json = {{"program", "logcheck"}, {"version", kVersion}, {"days", Json::array()}};
   for (const DayReport& day : days) json["days"].push_back(DayJson(day));
-  return json.dump(2) + "\n";
+  return WithControlsEscaped(json.dump(2)) + "\n";
 }
 
 }  // namespace logchecker

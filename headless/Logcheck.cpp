@@ -8,7 +8,6 @@
 #include "headless/Output.h"
 #include "headless/Reports.h"
 #include "headless/Station.h"
-#include "platform/StandardStreams.h"
 #include "sample/SampleStation.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
@@ -121,12 +120,11 @@ int RunVerb(const Options& options) {
 int RunLogcheck(const std::vector<std::string>& arguments) {
   const ParsedArguments parsed = ParseArguments(arguments);
   if (!parsed.options) {
-    if (parsed.exitCode == 0) {
-      WriteStandardOutput(parsed.message);
-    } else {
-      WriteErrorLine(parsed.message);
-    }
-    return parsed.exitCode;
+    const std::string trouble =
+        parsed.exitCode == kAllMatch ? WriteReport("", parsed.message) : parsed.message;
+    if (trouble.empty()) return kAllMatch;
+    WriteErrorLine(trouble);
+    return kTrouble;
   }
   int result = kTrouble;
   try {

@@ -16,10 +16,9 @@ std::string WriteReport(const std::string& path, const std::string& bytes) {
 }
 
 std::string FieldText(std::string_view stationText) {
-  std::string text(stationText);
+  std::string text = WithoutControls(stationText);
   std::replace_if(
-      text.begin(), text.end(),
-      [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }, ' ');
+      text.begin(), text.end(), [](char c) { return c == '\n' || c == '\t'; }, ' ');
   return ToUtf8(text);
 }
 

@@ -1,8 +1,10 @@
 #include "headless/Station.h"
 
+#include "cartstore/AudioSettings.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
+#include "common/UnreadableSettings.h"
 #include "platform/Platform.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
@@ -21,7 +23,13 @@ bool CanBeRead(const std::string& path) {
   return readable;
 }
 
+void RequireReadable(const std::string& file) {
+  const std::string reason = WhyUnreadable(file);
+  if (!reason.empty()) throw Trouble(reason);
+}
+
 void RequireSettings() {
+  RequireReadable(kDefaultSettingsFile);
   const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
   if (!(GetFileLength(file) > 0))
     throw Trouble("there are no settings: " + file + " is missing or empty");
@@ -43,10 +51,13 @@ void ReadStationSettings(const Options& options) {
   }
   RequireSettings();
   LoadGeneralSettings();
+  RequireReadable(gSettingsFile);
 }
 
 void OpenStore(TerminalUi& ui) {
+  RequireReadable(kFamilySettingsFile);
   LoadAudioSettings(kFamilySettingsFile, "");
+  RequireReadable(AudiowallSettingsFile());
   const bool opened = OpenAudiowall(0, false) == 0;
   const std::vector<std::string> messages = ui.TakeMessages();
   if (!opened) {

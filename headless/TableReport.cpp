@@ -48,7 +48,8 @@ std::string SilentAdvertLines(const SplitReport& split) {
     std::string cart = std::to_string(advert.cart);
     constexpr size_t kCartWidth = 6;
     if (cart.size() < kCartWidth) cart.insert(0, kCartWidth - cart.size(), ' ');
-    lines += "  " + advert.time + "  " + cart + "  " + FieldText(advert.description) + "\n";
+    lines +=
+        "  " + FieldText(advert.time) + "  " + cart + "  " + FieldText(advert.description) + "\n";
   }
   return lines;
 }

@@ -9,8 +9,7 @@ namespace logchecker {
 
 void WriteErrorLine(const std::string& text) {
   std::string line = "logcheck: " + text;
-  std::replace_if(
-      line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  std::replace(line.begin(), line.end(), '\n', ' ');
   WriteStandardError(line + "\n");
 }
 
@@ -37,7 +36,7 @@ void TerminalUi::ShowProgress(int32_t value, int32_t maximum) {
   if (percent == shownPercent_) return;
   shownPercent_ = percent;
   const std::string text = percent == 0 ? "    " : std::to_string(percent) + " %";
-  WriteStandardError("\r" + text + "\r");
+  OverwriteTerminalLine(text);
 }
 
 std::vector<std::string> TerminalUi::TakeMessages() { return std::exchange(messages_, {}); }

@@ -15,11 +15,18 @@ inline bool FitsALine(std::string_view text) {
                       [](char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; });
 }
 
+// Whether a profile file can be read, and why not. What is no file is a directory, a pipe, a
+// device.
+enum class ProfileState { kReadable, kMissing, kRefused, kNoFile, kTooLarge };
+
 // A bare file name means the Windows folder. Section and key names compare without regard to case,
-// and the first match wins. A file that can't be read counts as empty.
+// and the first match wins. A mark at its beginning tells that a file is in UTF-8 or in 16-bit
+// units, else it is in the station's code page. A file that can't be read counts as empty.
 class ProfileFiles {
  public:
   virtual ~ProfileFiles() = default;
+
+  virtual ProfileState StateOf(const std::string& file) = 0;
 
   // The value without blanks around it and without one pair of quotes, cut to `bufferSize` - 1
   // bytes; `defaultValue` (without trailing blanks) where the key is missing.

@@ -6,11 +6,20 @@
 
 namespace logchecker {
 
+// Called first of all by a program. Sees to it that no file which the program opens later takes the
+// place of a standard stream that it was started without: a report would go into that file. A
+// stream that was closed stays one that can't be written, and standard input one that is at its
+// end.
+void HoldStandardStreams();
+
 // Writes bytes as they are, with no change of line ends. False when not all could be written.
 bool WriteStandardOutput(std::string_view bytes);
 
-// Writes station text in the encoding of the system's console; failures are swallowed.
+// Writes station text in the encoding of the system's console, with a blank for each control
+// character but line feed and tabulator; failures are swallowed.
 void WriteStandardError(std::string_view stationText);
 bool StandardErrorIsTerminal();
+// Writes the text over the beginning of the terminal's line, and goes back to that beginning.
+void OverwriteTerminalLine(std::string_view stationText);
 
 }  // namespace logchecker

@@ -16,6 +16,10 @@ bool FromUtf8(std::string_view utf8, std::string* stationText);
 // An argument of the command line, as main received it, as station text.
 bool FromArgument(std::string_view argument, std::string* stationText);
 
+// The text with a blank for each control character but line feed and tabulator: on a terminal the
+// others move the cursor, change colours or do worse. Text from a file or an argument may hold any.
+std::string WithoutControls(std::string_view stationText);
+
 std::string ToUpper(std::string_view stationText);
 
 }  // namespace logchecker

@@ -2,10 +2,12 @@
 #include "cartbrowser/ui/CartBrowserProgram.h"
 #include "cartbrowser/ui/NotesWindow.h"
 #include "platform/Endings.h"
+#include "platform/StandardStreams.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
 
 int main(int argc, char** argv) {
+  logchecker::HoldStandardStreams();
   logchecker::EndWithoutTemporaryFiles();
   return logchecker::RunCartBrowser(
       argc, argv,

@@ -13,13 +13,16 @@
 #include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
 #include "common/TextHelpers.h"
+#include "common/UnreadableSettings.h"
 #include "common/VersionData.h"
+#include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StopProgram.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
+#include "platform/StationText.h"
 
 namespace logchecker {
 
@@ -44,9 +47,15 @@ struct Arguments {
   std::string number;
 };
 
-int Refuse(const std::string& line) {
+int Refuse(std::string line) {
+  std::replace(line.begin(), line.end(), '\n', ' ');
   WriteStandardError("cartbrowser: " + line + "\n");
   return kTrouble;
+}
+
+// The exit code of a program that has only this left to say.
+int Print(const std::string& text) {
+  return WriteStandardOutput(text) ? kChosen : Refuse("standard output could not be written");
 }
 
 // What is said instead of running; nothing when the program is to run. Needs no screen.
@@ -73,7 +82,9 @@ std::string Parse(const std::vector<std::string>& given, Arguments* arguments) {
     } else if (!argument.empty() && IsTextOfKind(argument, kDigits) && arguments->number.empty()) {
       arguments->number = argument;
     } else {
-      return "unknown argument " + argument + "; see cartbrowser --help";
+      std::string text;
+      FromArgument(argument, &text);
+      return "unknown argument " + text + "; see cartbrowser --help";
     }
   }
   return "";
@@ -81,7 +92,9 @@ std::string Parse(const std::vector<std::string>& given, Arguments* arguments) {
 
 // A store that can't be opened is asked for once.
 bool OpenStore() {
+  if (TellIfUnreadable(kFamilySettingsFile)) return false;
   LoadAudioSettings(kFamilySettingsFile, "");
+  if (TellIfUnreadable(AudiowallSettingsFile())) return false;
   if (OpenAudiowall(0, false) == 0) return true;
   {
     frmCartLocations dialog;
@@ -108,14 +121,16 @@ int Browse(const std::string& number, const ShowNotesWindow& showNotes) {
   browser.show();
   QApplication::exec();
   if (choice.cart <= 0) return kNothingChosen;
-  return WriteStandardOutput(std::to_string(choice.cart) + "\n") ? kChosen : kTrouble;
+  return Print(std::to_string(choice.cart) + "\n");
+}
+
+void CloseStore(const CartBrowserParts& parts) {
+  CloseAudiowall();
+  parts.CloseFiles();
 }
 
 [[noreturn]] void Stop(const RunTimeError& error, const CartBrowserParts& parts) {
-  StopProgram(error, [&parts] {
-    CloseAudiowall();
-    parts.CloseFiles();
-  });
+  StopProgram(error, [&parts] { CloseStore(parts); });
 }
 
 int Run(const Arguments& arguments, const CartBrowserParts& parts) {
@@ -129,8 +144,7 @@ int Run(const Arguments& arguments, const CartBrowserParts& parts) {
     parts.LoadSettings();
     result = OpenStore() ? Browse(arguments.number, parts.ShowNotes)
                          : Refuse("the cart store can't be opened");
-    CloseAudiowall();
-    parts.CloseFiles();
+    CloseStore(parts);
   });
   return result;
 }
@@ -138,13 +152,17 @@ int Run(const Arguments& arguments, const CartBrowserParts& parts) {
 }  // namespace
 
 int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
-  if (const auto information = Information({argv + 1, argv + argc})) {
-    return WriteStandardOutput(*information) ? kChosen : kTrouble;
-  }
+  if (const auto information = Information({argv + 1, argv + argc})) return Print(*information);
   Arguments arguments;
   const std::string wrong = Parse({argv + 1, argv + argc}, &arguments);
   if (!wrong.empty()) return Refuse(wrong);
+  // Each picture of the search's animation would be made by way of the display's graphics library,
+  // which does not survive the display.
+  constexpr char kGraphics[] = "QT_XCB_GL_INTEGRATION";
+  if (!qEnvironmentVariableIsSet(kGraphics)) qputenv(kGraphics, "none");
+  DisplayWatch display("cartbrowser", [&parts] { CloseStore(parts); });
   const QApplication application(argc, argv);
+  display.DisplayIsThere();
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);
   QApplication::setWindowIcon(IconNamed("program"));

@@ -40,6 +40,10 @@ int32_t ProfileNumber(const std::string& value) {
   return static_cast<int32_t>(negative ? 0U - number : number);
 }
 
+ProfileState PosixProfileFiles::StateOf(const std::string& file) {
+  return StateOfProfile(ProfilePath(file));
+}
+
 std::string PosixProfileFiles::GetString(const std::string& section, const std::string& key,
                                          const std::string& defaultValue, int32_t bufferSize,
                                          const std::string& file) {

@@ -9,6 +9,7 @@ namespace logchecker {
 
 class PosixProfileFiles : public ProfileFiles {
  public:
+  ProfileState StateOf(const std::string& file) override;
   std::string GetString(const std::string& section, const std::string& key,
                         const std::string& defaultValue, int32_t bufferSize,
                         const std::string& file) override;

@@ -13,6 +13,7 @@
 #include "platform/posix/PosixErrors.h"
 #include "platform/posix/Replacement.h"
 #include "platform/posix/StationPath.h"
+#include "platform/posix/UserFolders.h"
 
 namespace logchecker {
 
@@ -58,9 +59,7 @@ int32_t CopyFile(const std::string& from, const std::string& to,
 std::string DocumentsFolder() {
   const char* homeVariable = std::getenv("HOME");
   const std::string home = homeVariable == nullptr ? "" : homeVariable;
-  const char* configVariable = std::getenv("XDG_CONFIG_HOME");
-  const std::string config = configVariable == nullptr ? home + "/.config" : configVariable;
-  std::ifstream directories(config + "/user-dirs.dirs");
+  std::ifstream directories(UserConfigFolder() + "/user-dirs.dirs");
   const std::string key = "XDG_DOCUMENTS_DIR=\"";
   std::string line;
   while (std::getline(directories, line)) {

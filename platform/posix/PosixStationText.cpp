@@ -107,6 +107,19 @@ bool FromArgument(std::string_view argument, std::string* stationText) {
   return FromUtf8(argument, stationText);
 }
 
+// The code page's empty places lead to control characters too.
+std::string WithoutControls(std::string_view stationText) {
+  constexpr uint32_t kDelete = 0x7F;
+  constexpr uint32_t kLastControl = 0x9F;
+  std::string text(stationText);
+  for (char& c : text) {
+    const uint32_t codePoint = CodePointOf(static_cast<unsigned char>(c));
+    const bool control = codePoint < ' ' || (codePoint >= kDelete && codePoint <= kLastControl);
+    if (control && c != '\n' && c != '\t') c = ' ';
+  }
+  return text;
+}
+
 std::string ToUpper(std::string_view stationText) {
   std::string upper(stationText);
   for (char& c : upper) {

@@ -78,6 +78,20 @@ const ProfileText& ReadProfile(const std::string& hostPath) {
   return known.text;
 }
 
+// A pipe is not opened for it, which would take a place at it.
+ProfileState StateOfProfile(const std::string& hostPath) {
+  struct stat facts {};
+  if (stat(hostPath.c_str(), &facts) != 0) {
+    return errno == ENOENT || errno == ENOTDIR ? ProfileState::kMissing : ProfileState::kRefused;
+  }
+  if (!S_ISREG(facts.st_mode)) return ProfileState::kNoFile;
+  if (facts.st_size > kLongestProfile) return ProfileState::kTooLarge;
+  const int file = open(hostPath.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+  if (file < 0) return ProfileState::kRefused;
+  close(file);
+  return ProfileState::kReadable;
+}
+
 namespace {
 
 // The file's text for a change; false when it is there but can't be read.

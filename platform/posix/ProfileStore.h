@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/ProfileFiles.h"
 #include "platform/posix/ProfileText.h"
 
 namespace logchecker {
@@ -11,6 +12,8 @@ namespace logchecker {
 // The text of the file, empty when it can't be read. `hostPath` is a host path. The reference holds
 // until the next call.
 const ProfileText& ReadProfile(const std::string& hostPath);
+
+ProfileState StateOfProfile(const std::string& hostPath);
 
 // Each changes the file under its lock, whole or not at all, and returns an error number:
 // kPathFileAccess where the file is there but can't be read, since a change would then drop what it

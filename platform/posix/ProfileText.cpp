@@ -30,7 +30,10 @@ std::string FoldName(const std::string& name) { return ToUpper(TrimBlanks(name))
 
 }  // namespace
 
-ProfileText::ProfileText(std::string_view bytes) {
+ProfileText::ProfileText(std::string_view fileBytes)
+    : encoding_(EncodingOfProfile(fileBytes)), halfUnit_(HalfUnit(fileBytes, encoding_)) {
+  const std::string decoded = DecodeProfile(fileBytes, encoding_);
+  std::string_view bytes = decoded;
   const size_t firstEnd = bytes.find('\n');
   if (firstEnd != std::string_view::npos && (firstEnd == 0 || bytes[firstEnd - 1] != '\r')) {
     lineEnd_ = "\n";
@@ -44,10 +47,16 @@ ProfileText::ProfileText(std::string_view bytes) {
   IndexLines();
 }
 
-ProfileText::Line ProfileText::ParseLine(std::string_view bytes) {
+std::string ProfileText::ForLine(std::string_view stationText) const {
+  return encoding_ == ProfileEncoding::kStation ? std::string(stationText) : ToUtf8(stationText);
+}
+
+ProfileText::Line ProfileText::ParseLine(std::string_view bytes) const {
   Line line;
   line.bytes = bytes;
-  const std::string_view text = TrimBlanks(bytes);
+  std::string stationText = line.bytes;
+  if (encoding_ != ProfileEncoding::kStation) FromUtf8(bytes, &stationText);
+  const std::string_view text = TrimBlanks(stationText);
   if (text.empty() || text.front() == ';') return line;
   if (text.front() == '[') {
     // The name ends at the first bracket, or with the line where there is none.
@@ -101,18 +110,17 @@ void ProfileText::Set(const std::string& section, const std::string& key,
                       const std::string& value) {
   const size_t present = KeyLine(section, key);
   // A key that is there keeps its spelling.
-  const std::string_view name =
-      present == kNone
-          ? std::string_view(key)
-          : std::string_view(lines_[present].bytes).substr(0, lines_[present].bytes.find('='));
-  const Line line = ParseLine(std::string(TrimBlanks(name)) + "=" + value + lineEnd_);
+  const std::string name = present == kNone
+                               ? ForLine(key)
+                               : lines_[present].bytes.substr(0, lines_[present].bytes.find('='));
+  const Line line = ParseLine(std::string(TrimBlanks(name)) + "=" + ForLine(value) + lineEnd_);
   if (present != kNone) {
     lines_[present] = line;
   } else {
     EndLastLine();
     size_t place = SectionLine(section);
     if (place == kNone) {
-      lines_.push_back(ParseLine("[" + std::string(TrimBlanks(section)) + "]" + lineEnd_));
+      lines_.push_back(ParseLine("[" + ForLine(TrimBlanks(section)) + "]" + lineEnd_));
       place = lines_.size();
     } else {
       // Behind the section's last line that says something, ahead of the gap to the next section.
@@ -154,7 +162,7 @@ void ProfileText::DeleteSection(const std::string& section) {
 std::string ProfileText::Bytes() const {
   std::string bytes;
   for (const Line& line : lines_) bytes += line.bytes;
-  return bytes;
+  return EncodeProfile(bytes, encoding_) + halfUnit_;
 }
 
 }  // namespace logchecker

@@ -4,29 +4,44 @@
 
 #include <algorithm>
 #include <cctype>
-#include <cstdlib>
 
 #include "platform/HostPaths.h"
 #include "platform/StationText.h"
 #include "platform/posix/FolderNames.h"
+#include "platform/posix/UserFolders.h"
 
 namespace logchecker {
 
 namespace {
 
-std::string& WindowsFolderSlot() {
-  static std::string folder = [] {
-    const char* config = std::getenv("XDG_CONFIG_HOME");
-    if (config != nullptr && config[0] == '/') return std::string(config) + "/velmar";
-    const char* home = std::getenv("HOME");
-    return std::string(home == nullptr ? "" : home) + "/.config/velmar";
-  }();
-  return folder;
-}
-
 bool Exists(const std::string& path) {
   struct stat facts {};
   return lstat(path.c_str(), &facts) == 0;
+}
+
+// A host path with the name of each part as it is called there.
+std::string WithFoundNames(const std::string& path) {
+  if (path.empty() || Exists(path)) return path;
+  std::string result = path[0] == '/' ? "/" : "";
+  size_t begin = path.find_first_not_of('/');
+  while (begin != std::string::npos) {
+    size_t end = path.find('/', begin);
+    if (end == std::string::npos) end = path.size();
+    std::string name = path.substr(begin, end - begin);
+    if (!FindName(result, name, &name)) return result + path.substr(begin);
+    result += name;
+    const size_t next = path.find_first_not_of('/', end);
+    if (end < path.size()) result += '/';
+    begin = next;
+  }
+  return result;
+}
+
+// Settings are read and written by host paths, and looked for by station paths, which are found in
+// any letter case. Both must mean the same folder, so its name is settled once.
+std::string& WindowsFolderSlot() {
+  static std::string folder = WithFoundNames(UserConfigFolder() + "/velmar");
+  return folder;
 }
 
 // The path with "/" throughout and the drive or share replaced by its folder.
@@ -49,7 +64,9 @@ std::string WithoutDrive(std::string path) {
 
 const std::string& HostWindowsFolder() { return WindowsFolderSlot(); }
 
-void SetHostWindowsFolder(const std::string& folder) { WindowsFolderSlot() = folder; }
+void SetHostWindowsFolder(const std::string& folder) {
+  WindowsFolderSlot() = WithFoundNames(folder);
+}
 
 bool FindName(const std::string& hostFolder, const std::string& name, std::string* found) {
   const std::string folder = hostFolder.empty() ? "." : hostFolder;
@@ -61,21 +78,7 @@ bool FindName(const std::string& hostFolder, const std::string& name, std::strin
 }
 
 std::string HostPath(std::string_view stationPath) {
-  std::string path = WithoutDrive(ToUtf8(stationPath));
-  if (path.empty() || Exists(path)) return path;
-  std::string result = path[0] == '/' ? "/" : "";
-  size_t begin = path.find_first_not_of('/');
-  while (begin != std::string::npos) {
-    size_t end = path.find('/', begin);
-    if (end == std::string::npos) end = path.size();
-    std::string name = path.substr(begin, end - begin);
-    if (!FindName(result, name, &name)) return result + path.substr(begin);
-    result += name;
-    const size_t next = path.find_first_not_of('/', end);
-    if (end < path.size()) result += '/';
-    begin = next;
-  }
-  return result;
+  return WithFoundNames(WithoutDrive(ToUtf8(stationPath)));
 }
 
 std::string ToHostPath(std::string_view stationPath) { return HostPath(stationPath); }

@@ -12,7 +12,8 @@ namespace logchecker {
 // not exist stay as they are written. The result is in UTF-8.
 std::string HostPath(std::string_view stationPath);
 
-// The folder that holds profile files, drives and the registry; a host path.
+// The folder that holds profile files, drives and the registry; a host path, whose parts are found
+// as those of a station path are.
 const std::string& HostWindowsFolder();
 void SetHostWindowsFolder(const std::string& folder);
 

@@ -23,6 +23,23 @@ int32_t Write(const std::string& section, const char* key, const char* value,
 
 class SystemProfileFiles : public ProfileFiles {
  public:
+  ProfileState StateOf(const std::string& file) override {
+    const std::string path = ProfilePath(file);
+    const DWORD facts = GetFileAttributesA(path.c_str());
+    if (facts == INVALID_FILE_ATTRIBUTES) {
+      const DWORD error = GetLastError();
+      const bool missing = error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND;
+      return missing ? ProfileState::kMissing : ProfileState::kRefused;
+    }
+    if ((facts & FILE_ATTRIBUTE_DIRECTORY) != 0) return ProfileState::kNoFile;
+    const DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    const HANDLE handle = CreateFileA(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING,
+                                      FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE) return ProfileState::kRefused;
+    CloseHandle(handle);
+    return ProfileState::kReadable;
+  }
+
   std::string GetString(const std::string& section, const std::string& key,
                         const std::string& defaultValue, int32_t bufferSize,
                         const std::string& file) override {

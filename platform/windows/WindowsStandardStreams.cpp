@@ -1,4 +1,5 @@
 #include "platform/StandardStreams.h"
+#include "platform/StationText.h"
 #include "platform/windows/WindowsApi.h"
 
 namespace logchecker {
@@ -21,9 +22,25 @@ bool WriteWhole(DWORD stream, std::string_view bytes) {
 
 }  // namespace
 
+// A number that stands for nothing can become that of the next file which is opened, and what is
+// meant for the stream would go there. No stream at all fails for good.
+void HoldStandardStreams() {
+  for (const DWORD stream : {STD_INPUT_HANDLE, STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+    SetLastError(NO_ERROR);
+    const bool known = GetFileType(GetStdHandle(stream)) != FILE_TYPE_UNKNOWN;
+    if (!known && GetLastError() != NO_ERROR) SetStdHandle(stream, nullptr);
+  }
+}
+
 bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STD_OUTPUT_HANDLE, bytes); }
 
-void WriteStandardError(std::string_view stationText) { WriteWhole(STD_ERROR_HANDLE, stationText); }
+void WriteStandardError(std::string_view stationText) {
+  WriteWhole(STD_ERROR_HANDLE, WithoutControls(stationText));
+}
+
+void OverwriteTerminalLine(std::string_view stationText) {
+  WriteWhole(STD_ERROR_HANDLE, "\r" + WithoutControls(stationText) + "\r");
+}
 
 bool StandardErrorIsTerminal() {
   DWORD mode = 0;

@@ -71,6 +71,20 @@ bool FromArgument(std::string_view argument, std::string* stationText) {
   return true;
 }
 
+std::string WithoutControls(std::string_view stationText) {
+  constexpr wchar_t kDelete = 0x7F;
+  constexpr wchar_t kLastControl = 0x9F;
+  const auto isControl = [](wchar_t c) {
+    return (c < L' ' && c != L'\n' && c != L'\t') || (c >= kDelete && c <= kLastControl);
+  };
+  std::wstring wide = Widen(stationText);
+  if (std::none_of(wide.begin(), wide.end(), isControl)) return std::string(stationText);
+  std::replace_if(wide.begin(), wide.end(), isControl, L' ');
+  std::string text;
+  Narrow(wide, &text);
+  return text;
+}
+
 std::string ToUpper(std::string_view stationText) {
   std::string upper(stationText);
   CharUpperBuffA(upper.data(), static_cast<DWORD>(upper.size()));

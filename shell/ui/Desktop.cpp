@@ -6,6 +6,7 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/VersionData.h"
+#include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
@@ -32,18 +33,20 @@ std::string JoinedArguments(int argc, char** argv) {
   return line;
 }
 
-void Stop(const RunTimeError& error) {
-  StopProgram(error, [] {
-    CloseAudiowall();
-    CloseAllFiles();
-  });
+void CloseFiles() {
+  CloseAudiowall();
+  CloseAllFiles();
 }
+
+void Stop(const RunTimeError& error) { StopProgram(error, CloseFiles); }
 
 }  // namespace
 
 int RunDesktop(int argc, char** argv) {
   SetCommandLine(JoinedArguments(argc, argv));
+  DisplayWatch display("logchecker", CloseFiles);
   const QApplication application(argc, argv);
+  display.DisplayIsThere();
   QApplication::setApplicationName("logchecker");
   QApplication::setApplicationVersion(kVersion);
   QApplication::setDesktopFileName("org.logchecker.LogChecker");

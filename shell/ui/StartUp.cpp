@@ -1,10 +1,14 @@
 // The start of the program and its end.
 #include <QCoreApplication>
 #include <QMdiArea>
+#include <algorithm>
+#include <string>
+#include <vector>
 
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
+#include "common/UnreadableSettings.h"
 #include "common/UserInterface.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
@@ -18,9 +22,11 @@ bool frmMain::Load() {
   Splash().show();
   Splash().SetCurrentAction("Getting Velmar KLT Settings...");
   LoadGeneralSettings();
+  if (!PassReadingTest({kDefaultSettingsFile, gSettingsFile, kFamilySettingsFile})) return false;
   if (!PassFirstRunTest()) return false;
   Splash().SetCurrentAction("Getting Audio Settings...");
   LoadAudioSettings(kFamilySettingsFile, "");
+  if (!PassReadingTest({AudiowallSettingsFile()})) return false;
   Splash().SetCurrentAction("Opening Audiowall...");
   if (!OpenStore()) {
     UnloadSplash();
@@ -35,6 +41,15 @@ bool frmMain::Load() {
   StartupComplete = true;
   UnloadSplash();
   return true;
+}
+
+// Settings that are there and can't be read are neither those of a station nor those of a new
+// machine: the program says so and ends, since it could not write them either.
+bool frmMain::PassReadingTest(const std::vector<std::string>& files) {
+  if (std::none_of(files.begin(), files.end(), TellIfUnreadable)) return true;
+  UnloadSplash();
+  Unload();
+  return false;
 }
 
 // A machine that was never configured is asked for split 1. Without an answer the program ends at

@@ -47,7 +47,8 @@ void frmGeneralSettings::FillFields() {
 }
 
 // The number is tested before it is rounded, so a pasted 0.4 passes and becomes 0. The tolerance is
-// not tested at all.
+// not tested at all; one that is too large to be held is the largest, since no tolerance would be
+// the opposite of what was typed.
 void frmGeneralSettings::OnOk() {
   const double splits = Val(FromQString(ui_->txtNumberSplits->text()));
   if (splits <= 0 || splits > kMostSplits) {
@@ -64,7 +65,7 @@ void frmGeneralSettings::OnOk() {
   Write("DisplayBreakHH", settings.DisplayBreakHH ? "1" : "0");
   Write("DisplayCheckHH", settings.DisplayCheckHH ? "1" : "0");
   settings.BreakDifferenceMS =
-      ToInt32(Val(FromQString(ui_->txtSecondsDifference->text())) * kMillisecondsASecond);
+      ToNearestInt32(Val(FromQString(ui_->txtSecondsDifference->text())) * kMillisecondsASecond);
   Write("BreakDifferenceMS", std::to_string(settings.BreakDifferenceMS));
   Write("NumberActiveSplits", std::to_string(settings.NumberActiveSplits));
   accept();

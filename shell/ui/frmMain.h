@@ -77,6 +77,7 @@ class frmMain : public QMainWindow {
   void SwitchFocus();
 
   // The start, step by step.
+  bool PassReadingTest(const std::vector<std::string>& files);
   bool PassFirstRunTest();
   bool OpenStore();
   frmSplash& Splash();

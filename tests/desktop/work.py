@@ -30,7 +30,8 @@ def expected(programs, config, day):
     return done.stdout
 
 
-def write_sample(programs, config, first_day, days):
-    subprocess.run([programs / "logcheck", "sample", config / "velmar", "--date",
-                    first_day.isoformat(), "--days", str(days)], check=True,
-                   stdout=subprocess.DEVNULL)
+def write_sample(programs, config, first_day=None, days=1):
+    """Without a day it is tomorrow."""
+    date = [] if first_day is None else ["--date", first_day.isoformat()]
+    subprocess.run([programs / "logcheck", "sample", config / "velmar", *date, "--days", str(days)],
+                   check=True, stdout=subprocess.DEVNULL)

@@ -97,6 +97,19 @@ TEST(CommandLine, TheDateIsADayNumber) {
   EXPECT_FALSE(ParseArguments({}).options->day);
 }
 
+TEST(CommandLine, DaysBeyondTheLastDateAreRefused) {
+  for (const char* verb : {"check", "sample"}) {
+    std::vector<std::string> arguments = {verb, "--date", "9999-12-31", "--days", "1"};
+    if (verb == std::string("sample")) arguments.emplace_back("folder");
+    EXPECT_TRUE(ParseArguments(arguments).options) << verb;
+    arguments[4] = "2";
+    const ParsedArguments refused = ParseArguments(arguments);
+    EXPECT_FALSE(refused.options) << verb;
+    EXPECT_EQ(2, refused.exitCode);
+    EXPECT_EQ("--days 2 goes beyond 9999-12-31", refused.message);
+  }
+}
+
 TEST(CommandLine, TheWholeLineIsKeptForTheSettingsSwitches) {
   const ParsedArguments parsed = ParseArguments({"check", "/LI:ABC.INI", "--days", "2"});
   ASSERT_TRUE(parsed.options);

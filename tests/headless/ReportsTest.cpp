@@ -116,6 +116,8 @@ TEST(Reports, JsonSaysWhyADayWasNotChecked) {
 
 TEST(Reports, AFieldHasNoControlCharacters) {
   EXPECT_EQ("a b c  \xC3\xA9", FieldText("a\tb\nc\x7F\x01\xE9"));
+  EXPECT_EQ("a     b", FieldText("a\x81\x8D\x8F\x90\x9D"
+                                 "b"));
 }
 
 }  // namespace

@@ -15,6 +15,22 @@ using std::string_literals::operator""s;
 
 constexpr int32_t kBufferSize = 255;
 
+// The text in 16-bit units with their mark. `text` is Latin-1, but for the euro sign at 0x80.
+std::string Wide(const std::string& text, bool little = true) {
+  std::string bytes = little ? "\xFF\xFE" : "\xFE\xFF";
+  for (const char c : text) {
+    const char low = c == '\x80' ? '\xAC' : c;
+    const char high = c == '\x80' ? '\x20' : '\0';
+    bytes += little ? low : high;
+    bytes += little ? high : low;
+  }
+  return bytes;
+}
+
+std::string WideBig(const std::string& text) { return Wide(text, false); }
+
+constexpr char kUtf8Mark[] = "\xEF\xBB\xBF";
+
 struct TextCase {
   const char* rule;
   std::string file;
@@ -120,6 +136,31 @@ const TextCase kTexts[] = {
      std::string(254, 'x')},
     {"a long quoted value is cut behind its quote",
      "[s]\r\nk=\"" + std::string(1000, 'x') + "\"\r\n", "s", "k", std::string(254, 'x')},
+    {"16-bit units", Wide("[s]\r\na=1\r\nk=caf\xE9 \x80\r\n"), "s", "k", "caf\xE9 \x80"},
+    {"16-bit units, section and key in another case", Wide("[S]\r\nKey=v\r\n"), "s", "kEY", "v"},
+    {"16-bit units, blanks and quotes", Wide(" [s] \r\n k = \" v \" \r\n"), "s", "k", " v "},
+    {"16-bit units, line feeds alone", Wide("[s]\na=1\nk=v\n"), "s", "k", "v"},
+    {"16-bit units, no last line end", Wide("[s]\r\nk=v"), "s", "k", "v"},
+    {"16-bit units, comment", Wide(";k=no\r\n[s]\r\n;k=no\r\nk=v\r\n"), "s", "k", "v"},
+    {"16-bit units, characters that the code page can't hold",
+     Wide("[s]\r\nk=") + "\x16\x04-N"s + Wide("v\r\n").substr(2), "s", "k", "??v"},
+    {"16-bit units, a unit whose bytes are a line feed and a carriage return",
+     Wide("[s]\r\nk=a") + "\x0A\x0D"s + Wide("b\r\n").substr(2), "s", "k", "a?b"},
+    {"16-bit units, 255 characters", Wide("[s]\r\nk=" + std::string(255, '\xE9') + "\r\n"), "s",
+     "k", std::string(254, '\xE9')},
+    {"16-bit units, half a unit at the end", Wide("[s]\r\nk=v\r\n") + "x", "s", "k", "v"},
+    {"16-bit units, mark alone", Wide(""), "s", "k", "none"},
+    {"16-bit units, second mark", "\xFF\xFE" + Wide("[s]\r\nk=v\r\n"), "s", "k", "none"},
+    {"16-bit units without a mark", Wide("[s]\r\nk=v\r\n").substr(2), "s", "k", "none"},
+    {"16-bit units, high byte first", WideBig("[s]\r\nk=caf\xE9 \x80\r\n"), "s", "k",
+     "caf\xE9 \x80"},
+    {"UTF-8 mark", kUtf8Mark + "[s]\r\nk=caf\xC3\xA9 \xE2\x82\xAC\r\n"s, "s", "k", "caf\xE9 \x80"},
+    {"UTF-8 mark, second section", kUtf8Mark + "[t]\r\na=1\r\n[s]\r\nk=v\r\n"s, "s", "k", "v"},
+    {"UTF-8 mark alone", kUtf8Mark, "s", "k", "none"},
+    {"UTF-8 mark, byte that is no UTF-8", kUtf8Mark + "[s]\r\nk=caf\xE9\r\n"s, "s", "k", "caf?"},
+    {"UTF-8 without a mark is in the code page", "[s]\r\nk=caf\xC3\xA9\r\n", "s", "k",
+     "caf\xC3\xA9"},
+
     {"a long line elsewhere", "[s]\r\na=" + std::string(70000, 'x') + "\r\nk=v\r\n", "s", "k", "v"},
 };
 
@@ -171,10 +212,13 @@ class ProfileFilesTest : public testing::Test {
  protected:
   // Each file has a name of its own, so that no answer comes from what another one held.
   std::string NewFile(const std::string& bytes) {
-    const std::string name = "file" + std::to_string(++files_) + ".ini";
+    ++files_;
+    const std::string name = NameOfNewest();
     folder_.WriteFile(name, bytes);
     return folder_.Path(name);
   }
+
+  std::string NameOfNewest() const { return "file" + std::to_string(files_) + ".ini"; }
 
   std::string Get(const std::string& file, const std::string& section, const std::string& key) {
     return profiles_.GetString(section, key, "none", kBufferSize, file);
@@ -243,6 +287,35 @@ TEST_F(ProfileFilesTest, AFileInAMissingFolderCannotBeWritten) {
             kPathNotFound);
 }
 
+TEST_F(ProfileFilesTest, AFileKeepsItsEncodingWhenAKeyIsWritten) {
+  const std::string other = "; caf\xE9 \x80\r\n";
+  const std::string before = "[s]\r\nk=old\r\n";
+  const std::string after = "[s]\r\nk=\xE9\x80\r\nl=new\r\n";
+  const std::string inUtf8 = "; caf\xC3\xA9 \xE2\x82\xAC\r\n";
+  // Of what the code page can't hold nothing is lost either.
+  const std::string foreign = "; \xD0\x96\xE4\xB8\xAD\xF0\x9F\x98\x80\r\n";
+  const std::string wideForeign =
+      Wide("; ").substr(2) + "\x16\x04-N\x3D\xD8\x00\xDE"s + Wide("\r\n").substr(2);
+  const struct {
+    const char* rule;
+    std::string before;
+    std::string after;
+  } cases[] = {
+      {"code page", other + before, other + after},
+      {"16-bit units", Wide(other) + wideForeign + Wide(before).substr(2),
+       Wide(other) + wideForeign + Wide(after).substr(2)},
+      {"high byte first", WideBig(other + before), WideBig(other + after)},
+      {"UTF-8", kUtf8Mark + inUtf8 + foreign + before,
+       kUtf8Mark + inUtf8 + foreign + "[s]\r\nk=\xC3\xA9\xE2\x82\xAC\r\nl=new\r\n"},
+  };
+  for (const auto& row : cases) {
+    const std::string file = NewFile(row.before);
+    EXPECT_EQ(profiles_.WriteString("s", "k", "\xE9\x80", file), kNoError) << row.rule;
+    EXPECT_EQ(profiles_.WriteString("s", "l", "new", file), kNoError) << row.rule;
+    EXPECT_EQ(folder_.ReadFile(NameOfNewest()), row.after) << row.rule;
+  }
+}
+
 TEST_F(ProfileFilesTest, WritingMakesTheFile) {
   const std::string file = folder_.Path("new.ini");
   EXPECT_EQ(profiles_.WriteString("s", "k", "v", file), kNoError);
@@ -273,6 +346,12 @@ const WriteCase kFilesToWrite[] = {
      "[s]\r\nk=old\r\nother=kept\r\n[t]\r\nk=kept too\r\n[s]\r\nk=second\r\nother=second\r\n"},
     {"lines without an equals sign",
      "what\r\n[s]\r\nwhat\r\nk=old\r\nother=kept\r\n[t]\r\nwhat\r\nk=kept too\r\n"},
+    {"units of 16 bits", Wide("[s]\r\nk=old\r\nother=kept\r\n[t]\r\nk=kept too\r\n")},
+    {"units of 16 bits and no last line end",
+     Wide("[t]\r\nk=kept too\r\n[s]\r\nother=kept\r\nk=old")},
+    {"units with the high byte first",
+     WideBig("[s]\r\nk=old\r\nother=kept\r\n[t]\r\nk=kept too\r\n")},
+    {"UTF 8 mark", kUtf8Mark + "[s]\r\nk=old\r\nother=kept\r\n[t]\r\nk=kept too\r\n"s},
     {"text ahead of the first section",
      "k=no\r\nwhat\r\n[s]\r\nk=old\r\nother=kept\r\n[t]\r\nk=kept too\r\n"},
 };

@@ -27,6 +27,14 @@ TEST(StationTextTest, KnownCharacters) {
   EXPECT_EQ(ToUtf8("\xFF"), "\xC3\xBF");
 }
 
+TEST(StationTextTest, ControlCharactersBecomeBlanks) {
+  EXPECT_EQ(WithoutControls(""), "");
+  EXPECT_EQ(WithoutControls("caf\xE9 \x80\xA0\xAD"), "caf\xE9 \x80\xA0\xAD");
+  EXPECT_EQ(WithoutControls("a\tb\nc"), "a\tb\nc") << "lines and columns stay";
+  EXPECT_EQ(WithoutControls("a\x1B[2J\r\b\x7F\x01z"), "a [2J    z");
+  EXPECT_EQ(WithoutControls("\x81\x8D\x8F\x90\x9D"), "     ");
+}
+
 TEST(StationTextTest, WhatTheCodePageCannotHoldIsToldAndMarked) {
   const struct {
     const char* utf8;

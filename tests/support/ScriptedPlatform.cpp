@@ -32,6 +32,10 @@ class ScriptedProfiles : public ProfileFiles {
  public:
   ScriptedProfiles(ProfileFiles& real, CallScript& script) : real_(real), script_(script) {}
 
+  ProfileState StateOf(const std::string& file) override {
+    if (script_.Enter("Profiles.StateOf") != 0) return ProfileState::kRefused;
+    return real_.StateOf(file);
+  }
   std::string GetString(const std::string& section, const std::string& key,
                         const std::string& defaultValue, int32_t bufferSize,
                         const std::string& file) override {

@@ -25,6 +25,18 @@ TEST(ProfileTextTest, SectionNames) {
   EXPECT_EQ(ValueOf("[\xC4]\r\n\xE9=v\r\n", "\xE4", "\xC9"), "v") << "accented letters";
 }
 
+TEST(ProfileTextTest, EachEncodingComesBackToTheByte) {
+  const std::string cases[] = {
+      std::string("\xFF\xFE", 2),
+      std::string("\xFF\xFE[\0s\0]\0\r\0\n\0", 12),
+      std::string("\xFF\xFE[\0s\0]\0\r\0\n\0k", 13),                // cut off within a unit
+      std::string("\xFF\xFE\x3D\xD8\x00\xDE\x3D\xD8\x0A\x00", 10),  // a pair, and half of one
+      std::string("\xFE\xFF\0[\0s\0]\xD8\x3D\xDE\x00", 12),
+      "\xEF\xBB\xBF[s]\nk=\xE9\xC3\xA9\xE2\x82",
+  };
+  for (const std::string& bytes : cases) EXPECT_EQ(ProfileText(bytes).Bytes(), bytes);
+}
+
 struct ChangeCase {
   const char* rule;
   const char* before;

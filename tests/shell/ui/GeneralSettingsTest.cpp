@@ -49,6 +49,23 @@ TEST_F(GeneralSettingsTest, ShowsTheValuesInMemory) {
   EXPECT_EQ(Seconds()->text(), "1.5");
 }
 
+TEST_F(GeneralSettingsTest, AToleranceBeyondTheLargestIsTheLargest) {
+  const struct {
+    const char* typed;
+    int32_t milliseconds;
+  } cases[] = {{"2147483.647", 2147483647},   {"2147483.648", 2147483647},
+               {"99999999999", 2147483647},   {"1e400", 2147483647},
+               {"-2147483.648", -2147483648}, {"-99999999999", -2147483648}};
+  for (const auto& row : cases) {
+    Open();
+    Seconds()->setText(row.typed);
+    Press("cmdOK");
+    EXPECT_EQ(gGeneralSettings.BreakDifferenceMS, row.milliseconds) << row.typed;
+    EXPECT_EQ(Os().profiles.GetInt("General", "BreakDifferenceMS", 0, "VELKLT.INI"),
+              row.milliseconds);
+  }
+}
+
 TEST_F(GeneralSettingsTest, OkStoresEverythingAndKeepsTheRestOfTheFile) {
   Splits()->setText("10");
   Seconds()->setText("1.5");

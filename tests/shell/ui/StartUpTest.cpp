@@ -1,5 +1,6 @@
 #include <QLineEdit>
 #include <QPushButton>
+#include <filesystem>
 
 #include "cartstore/AudiowallParts.h"
 #include "common/GeneralSettings.h"
@@ -95,6 +96,23 @@ TEST_F(StartUpTest, TheWindowsStandSideBySide) {
     EXPECT_EQ(Window(n).y(), 0);
     EXPECT_EQ(Window(n).height(), inner.height());
   }
+}
+
+TEST_F(StartUpTest, SettingsThatCannotBeReadAreToldAndEndTheProgram) {
+  const std::string carts = folder().ReadFile("part1/Carts1.lst");
+  for (const char* name : {"VELKLT.INI", "VELMAR.INI", "part1/Audwall.ini"}) {
+    if (folder().Exists(name)) std::filesystem::rename(Path(name), Path("kept"));
+    std::filesystem::create_directory(Path(name));
+    ui.messages.clear();
+    EXPECT_FALSE(Start()) << name;
+    EXPECT_TRUE(main->HasEnded());
+    ASSERT_EQ(ui.Texts().size(), 1U) << name;
+    const std::string file = std::filesystem::path(name).filename();
+    EXPECT_NE(ui.Texts()[0].find(file + " is a directory"), std::string::npos) << ui.Texts()[0];
+    std::filesystem::remove(Path(name));
+    if (folder().Exists("kept")) std::filesystem::rename(Path("kept"), Path(name));
+  }
+  EXPECT_EQ(folder().ReadFile("part1/Carts1.lst"), carts);
 }
 
 TEST_F(StartUpTest, AStoreThatCantBeHadEndsTheProgramAfterOneTryOfTheDialog) {
