@@ -3,6 +3,6 @@
 namespace logchecker {
 
 // Here the toolkit's painter fails when a job is refused.
-std::string QueueRefusal() { return ""; }
+std::string QueueRefusal(const QString& /*queue*/) { return ""; }
 
 }  // namespace logchecker

@@ -74,7 +74,7 @@ void PrintJob::Send(const PrintedPages& pages) {
   // The toolkit does not notice when it can't write its own copy, but this one, which is as long
   // and lay where that will lie, has just made room for it.
   Draw(chosen_, pages, PickedPages(chosen_, pages.count));
-  const std::string refusal = QueueRefusal();
+  const std::string refusal = QueueRefusal(chosen_.printerName());
   if (!refusal.empty()) Fail(kPrinterError, refusal);
 }
 

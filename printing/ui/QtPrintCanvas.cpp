@@ -25,9 +25,8 @@ QString Printable(std::string_view text) {
 }  // namespace
 
 QtPrintCanvas::QtPrintCanvas(QPrinter& chosen, const QString& title) : job_(chosen, title) {
-  // The system knows what stands for it where it is not there; it does so for a single name alone.
+  // The system says what stands for it where it is not there, when no other name and no hint is given.
   font_.setFamilies({"Arial"});
-  font_.setStyleHint(QFont::SansSerif);
   // Without kerning and ligatures a text is exactly as wide as its characters together, and can be
   // measured one by one.
   font_.setKerning(false);
