@@ -23,6 +23,7 @@ QFont CartRowFont() {
   QFont font = QApplication::font();
   // The width of a text is then the sum of its characters' widths.
   font.setKerning(false);
+  font.setStyleStrategy(QFont::PreferNoShaping);
   const int room = ToPixels(kDoubleRowHeight) / kLinesOfDoubleRow;
   int size = QFontInfo(font).pixelSize();
   do {

@@ -30,7 +30,7 @@ class BusyWindow {
 // the last.
 void frmCheckBreaks::PrintDetails() {
   const std::optional<PrinterChoice> choice =
-      AskForPrinter(this, "Print Check Split Times", OnlySelected() != 0);
+      AskForPrinter(this, {"Print Check Split Times", OnlySelected() != 0, JobKind::kReport});
   if (!choice) return;
   const BusyWindow busy(*this);
   Ui().Yield();

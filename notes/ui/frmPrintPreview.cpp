@@ -1,11 +1,9 @@
 #include "notes/ui/frmPrintPreview.h"
 
-#include <QAbstractTextDocumentLayout>
 #include <QDir>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QTextDocument>
 #include <QTextDocumentFragment>
 #include <algorithm>
 #include <iterator>
@@ -23,10 +21,10 @@
 #include "dialogs/ui/SaveDialog.h"
 #include "notes/RichText.h"
 #include "notes/TextFile.h"
+#include "notes/ui/PrintNote.h"
 #include "notes/ui/RichTextView.h"
 #include "platform/HostPaths.h"
 #include "printing/PrintCanvas.h"
-#include "printing/ui/PrintJob.h"
 #include "printing/ui/PrinterChoice.h"
 #include "ui_frmPrintPreview.h"
 
@@ -112,22 +110,15 @@ void frmPrintPreview::LoadFile(const std::string& fileName) {
 
 void frmPrintPreview::OnPrint() {
   const bool anySelected = ui_->rtfFile->textCursor().hasSelection();
-  const std::optional<PrinterChoice> choice = AskForPrinter(this, windowTitle(), anySelected);
+  const std::optional<PrinterChoice> choice =
+      AskForPrinter(this, {windowTitle(), anySelected, JobKind::kNote});
   if (!choice) return;
   if (!choice->selectionOnly) ui_->rtfFile->moveCursor(QTextCursor::Start);
   QTextCursor source = ui_->rtfFile->textCursor();
   if (!source.hasSelection()) source.select(QTextCursor::Document);
+  const std::string name = GetFileNamePart(fileName_);
   try {
-    PrintJob job(*choice->printer, windowTitle());
-    job.SetCopies(choice->copies);
-    QTextDocument document;
-    document.setDefaultFont(QFont("Courier"));
-    QTextCursor(&document).insertFragment(source.selection());
-    // With pages of its own size the text gets no page numbers, which a note has none of.
-    document.documentLayout()->setPaintDevice(&job.Paper());
-    document.setPageSize(job.Paper().pageRect(QPrinter::DevicePixel).size());
-    document.print(&job.Paper());
-    job.Send();
+    PrintNote(source.selection(), *choice->printer, name.empty() ? windowTitle() : ToQString(name));
   } catch (const PrintError& error) {
     gErrorState = {error.number(), error.what()};
     ShowErrorMessage("while printing.", error.number(), false);

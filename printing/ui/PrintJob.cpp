@@ -1,66 +1,102 @@
 #include "printing/ui/PrintJob.h"
 
+#include <QDir>
 #include <QFile>
+#include <QPainter>
 #include <QSaveFile>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <string>
+#include <string_view>
 
 #include "common/ErrorState.h"
 #include "common/ui/StationQString.h"
 #include "printing/PrintCanvas.h"
-#include "printing/ui/CupsQueue.h"
+#include "printing/WholePdf.h"
+#include "printing/ui/QueueRefusal.h"
 
 namespace logchecker {
 
 namespace {
 
-const char* SidesOf(QPrinter::DuplexMode duplex) {
-  switch (duplex) {
-    case QPrinter::DuplexLongSide:
-      return "two-sided-long-edge";
-    case QPrinter::DuplexShortSide:
-      return "two-sided-short-edge";
-    default:
-      return "";
+[[noreturn]] void Fail(int32_t number, const std::string& why) { throw PrintError(number, why); }
+
+// The pages that the user picked: `count` of them from `first` on.
+struct PageSpan {
+  int first;
+  int count;
+};
+
+PageSpan PickedPages(const QPrinter& chosen, int count) {
+  if (chosen.printRange() != QPrinter::PageRange) return {0, count};
+  const int first = std::max(chosen.fromPage(), 1);
+  const int last = std::min(chosen.toPage(), count);
+  if (last < first) Fail(kPrinterError, "There are no such pages");
+  return {first - 1, last - first + 1};
+}
+
+void Draw(QPrinter& paper, const PrintedPages& pages, PageSpan picked) {
+  QPainter painter;
+  bool drawn = painter.begin(&paper);
+  for (int i = 0; i < picked.count && drawn; ++i) {
+    if (i > 0) drawn = paper.newPage();
+    if (drawn) pages.draw(painter, picked.first + i);
   }
+  if (!drawn || !painter.end()) Fail(kPrinterError, ErrorText(kPrinterError));
+}
+
+// The file is written whole or not at all.
+void WriteFile(const QString& name, const QByteArray& bytes) {
+  QSaveFile file(name);
+  const bool written =
+      file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+  if (!written) Fail(kPathFileAccess, FromQString(file.errorString()));
 }
 
 }  // namespace
 
-PrintJob::PrintJob(const QPrinter& chosen, const QString& title)
-    : paper_(QPrinter::HighResolution), title_(title), duplex_(chosen.duplex()) {
-  if (chosen.outputFormat() == QPrinter::PdfFormat && !chosen.outputFileName().isEmpty()) {
-    pdfFile_ = chosen.outputFileName();
-  } else {
-    queue_ = chosen.printerName();
-  }
-  paper_.setOutputFormat(QPrinter::PdfFormat);
-  paper_.setOutputFileName(folder_.filePath("job.pdf"));
-  paper_.setPageLayout(chosen.pageLayout());
-  paper_.setDocName(title);
-  paper_.setCreator("Log Checker");
+PrintJob::PrintJob(QPrinter& chosen, const QString& title) : chosen_(chosen) {
+  chosen_.setDocName(title);
+  chosen_.setCreator("Log Checker");
 }
 
-QString PrintJob::DeviceName() const { return pdfFile_.isEmpty() ? queue_ : pdfFile_; }
-
-void PrintJob::Send() {
-  if (!QFile::exists(paper_.outputFileName())) {
-    throw PrintError(kPrinterError, ErrorText(kPrinterError));
-  }
-  if (!pdfFile_.isEmpty()) {
-    MoveTo(pdfFile_);
-  } else if (queue_.isEmpty()) {
-    throw PrintError(kPrinterError, "There is no printer");
-  } else {
-    SubmitToQueue(queue_, paper_.outputFileName(), title_, SidesOf(duplex_), copies_);
-  }
+QString PrintJob::DeviceName() const {
+  return IsFile() ? chosen_.outputFileName() : chosen_.printerName();
 }
 
-// The file is written whole or not at all.
-void PrintJob::MoveTo(const QString& file) const {
-  QFile drawn(paper_.outputFileName());
-  QSaveFile target(file);
-  const bool written = drawn.open(QIODevice::ReadOnly) && target.open(QIODevice::WriteOnly) &&
-                       target.write(drawn.readAll()) == drawn.size() && target.commit();
-  if (!written) throw PrintError(kPathFileAccess, FromQString(target.errorString()));
+void PrintJob::Send(const PrintedPages& pages) {
+  if (DeviceName().isEmpty()) Fail(kPrinterError, "There is no printer");
+  const QByteArray whole = DrawWhole(pages);
+  if (IsFile()) {
+    WriteFile(chosen_.outputFileName(), whole);
+    return;
+  }
+  // The toolkit does not notice when it can't write its own copy, but this one, which is as long
+  // and lay where that will lie, has just made room for it.
+  Draw(chosen_, pages, PickedPages(chosen_, pages.count));
+  const std::string refusal = QueueRefusal(chosen_.printerName());
+  if (!refusal.empty()) Fail(kPrinterError, refusal);
+}
+
+QByteArray PrintJob::DrawWhole(const PrintedPages& pages) const {
+  const QTemporaryDir folder;
+  QPrinter paper(QPrinter::HighResolution);
+  paper.setOutputFormat(QPrinter::PdfFormat);
+  paper.setOutputFileName(folder.filePath("job.pdf"));
+  paper.setResolution(chosen_.resolution());
+  paper.setPageLayout(chosen_.pageLayout());
+  paper.setColorMode(chosen_.colorMode());
+  paper.setDocName(chosen_.docName());
+  paper.setCreator(chosen_.creator());
+  const std::string place = FromQString(QDir::toNativeSeparators(QDir::tempPath()));
+  if (!folder.isValid()) Fail(kPathFileAccess, ErrorText(kPathFileAccess) + ": " + place);
+  Draw(paper, pages, PickedPages(chosen_, pages.count));
+  QFile drawn(paper.outputFileName());
+  const QByteArray bytes = drawn.open(QIODevice::ReadOnly) ? drawn.readAll() : QByteArray();
+  if (!IsWholePdf(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())))) {
+    Fail(kDiskFull, ErrorText(kDiskFull) + ": " + place);
+  }
+  return bytes;
 }
 
 }  // namespace logchecker

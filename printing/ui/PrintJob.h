@@ -1,37 +1,41 @@
-// One job for a printer. It is drawn as PDF and handed over when it is whole, so that no printer
-// ever holds half of one.
+// One job for a printer. The toolkit hands it over, with everything that was picked in the
+// printer's dialog.
 #pragma once
 
 #include <QPrinter>
-#include <QTemporaryDir>
+#include <functional>
+
+class QPainter;
 
 namespace logchecker {
 
+// What a job prints. A page, counted from 0, is drawn on a painter whose origin is the upper left
+// corner of the printable page. It can be drawn several times.
+struct PrintedPages {
+  int count = 0;
+  std::function<void(QPainter& painter, int page)> draw;
+};
+
 class PrintJob {
  public:
-  // `chosen` is the printer that the user picked, with its page; a queue of the system, or a PDF
-  // file.
-  PrintJob(const QPrinter& chosen, const QString& title);
+  // `chosen` is the printer that the user picked, a queue of the system or a PDF file, and must
+  // outlive the job.
+  PrintJob(QPrinter& chosen, const QString& title);
 
-  // To be drawn on with a painter, which must have ended before Send.
-  QPrinter& Paper() { return paper_; }
-  // How many of the job the printer makes; 1 at first. A PDF file is one however many.
-  void SetCopies(int copies) { copies_ = copies; }
-  // Hands the job over. Throws PrintError. A job that is never sent leaves nothing behind.
-  void Send();
+  // For measuring.
+  const QPrinter& Paper() const { return chosen_; }
+  // Hands the job over, or the pages of it that the user picked. Throws PrintError. The whole job
+  // is drawn into the temporary folder first, and goes no further when there is no room for all of
+  // it: no printer gets half of a job, and a PDF file that is there stays as it is.
+  void Send(const PrintedPages& pages);
   // The printer's name, or the file's.
   QString DeviceName() const;
 
  private:
-  void MoveTo(const QString& file) const;
+  bool IsFile() const { return chosen_.outputFormat() == QPrinter::PdfFormat; }
+  QByteArray DrawWhole(const PrintedPages& pages) const;
 
-  QTemporaryDir folder_;
-  QPrinter paper_;
-  QString title_;
-  QString queue_;    // empty for a PDF file
-  QString pdfFile_;  // empty for a queue
-  QPrinter::DuplexMode duplex_;
-  int copies_ = 1;
+  QPrinter& chosen_;
 };
 
 }  // namespace logchecker

@@ -1,28 +1,37 @@
 #include "printing/ui/PrinterChoice.h"
 
-#include <QPrintDialog>
 #include <algorithm>
+
+#include "printing/ui/PrinterDialog.h"
 
 namespace logchecker {
 
-std::optional<PrinterChoice> AskForPrinter(QWidget* owner, const QString& title,
-                                           bool presetSelection) {
+std::optional<LastPrinter> gLastPrinter;
+
+namespace {
+
+bool IsFile(const QPrinter& printer) { return printer.outputFormat() == QPrinter::PdfFormat; }
+
+void Remember(const QPrinter& printer) {
+  gLastPrinter =
+      LastPrinter{IsFile(printer) ? QString() : printer.printerName(),
+                  IsFile(printer) ? printer.outputFileName() : QString(), printer.pageLayout()};
+}
+
+}  // namespace
+
+std::optional<PrinterChoice> AskForPrinter(QWidget* owner, const PrinterQuestion& question) {
   PrinterChoice choice;
   choice.printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  choice.printer->setPrintRange(presetSelection ? QPrinter::Selection : QPrinter::AllPages);
-  QPrintDialog dialog(choice.printer.get(), owner);
-  dialog.setObjectName("PrinterDialog");
-  dialog.setWindowTitle(title);
-  dialog.setOption(QAbstractPrintDialog::PrintSelection);
-  dialog.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage, false);
-  dialog.setPrintRange(presetSelection ? QAbstractPrintDialog::Selection
-                                       : QAbstractPrintDialog::AllPages);
+  PrinterDialog dialog(choice.printer.get(), question, owner);
   if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  Remember(*choice.printer);
   choice.selectionOnly = dialog.printRange() == QAbstractPrintDialog::Selection;
-  choice.copies = std::max(choice.printer->copyCount(), 1);
-  // Whoever prints makes the copies; with the printer's count left as it is three would make nine.
-  choice.printer->setCopyCount(1);
+  if (question.kind == JobKind::kReport) {
+    choice.copies = std::max(choice.printer->copyCount(), 1);
+    // The printer would make copies of each copy.
+    choice.printer->setCopyCount(1);
+  }
   return choice;
 }
 

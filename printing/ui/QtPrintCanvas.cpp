@@ -1,8 +1,9 @@
 #include "printing/ui/QtPrintCanvas.h"
 
 #include <QFontMetricsF>
+#include <QPainter>
+#include <utility>
 
-#include "common/ErrorState.h"
 #include "common/ui/StationQString.h"
 
 namespace logchecker {
@@ -23,17 +24,14 @@ QString Printable(std::string_view text) {
 
 }  // namespace
 
-QtPrintCanvas::QtPrintCanvas(const QPrinter& chosen, const QString& title) : job_(chosen, title) {
-  font_.setFamilies({"Arial", "Liberation Sans", "Helvetica", "DejaVu Sans"});
-  // A text is then exactly as wide as its characters together, and can be measured one by one.
+QtPrintCanvas::QtPrintCanvas(QPrinter& chosen, const QString& title) : job_(chosen, title) {
+  // The system says what stands for it where it is not there, when no other name and no hint is given.
+  font_.setFamilies({"Arial"});
+  // Without kerning and ligatures a text is exactly as wide as its characters together, and can be
+  // measured one by one.
   font_.setKerning(false);
+  font_.setStyleStrategy(QFont::PreferNoShaping);
   font_.setPointSizeF(kTextSize);
-}
-
-QtPrintCanvas::~QtPrintCanvas() {
-  if (!painter_.isActive()) return;
-  job_.Paper().abort();
-  painter_.end();
 }
 
 double QtPrintCanvas::TwipsPerPixelX() { return kTwipsPerInch / job_.Paper().logicalDpiX(); }
@@ -48,29 +46,13 @@ double QtPrintCanvas::PageHeight() {
   return job_.Paper().pageRect(QPrinter::DevicePixel).height() * TwipsPerPixelY();
 }
 
-void QtPrintCanvas::SetFontName(const std::string& name) {
-  font_.setFamilies({ToQString(name)});
-  FontChanged();
-}
+void QtPrintCanvas::SetFontName(const std::string& name) { font_.setFamilies({ToQString(name)}); }
 
-void QtPrintCanvas::SetFontSize(double points) {
-  font_.setPointSizeF(points);
-  FontChanged();
-}
+void QtPrintCanvas::SetFontSize(double points) { font_.setPointSizeF(points); }
 
-void QtPrintCanvas::SetFontBold(bool bold) {
-  font_.setBold(bold);
-  FontChanged();
-}
+void QtPrintCanvas::SetFontBold(bool bold) { font_.setBold(bold); }
 
-void QtPrintCanvas::SetFontUnderline(bool underline) {
-  font_.setUnderline(underline);
-  FontChanged();
-}
-
-void QtPrintCanvas::FontChanged() {
-  if (painter_.isActive()) painter_.setFont(font_);
-}
+void QtPrintCanvas::SetFontUnderline(bool underline) { font_.setUnderline(underline); }
 
 const QtPrintCanvas::Widths& QtPrintCanvas::WidthsOfFont() {
   const QString key = font_.toString();
@@ -93,18 +75,17 @@ double QtPrintCanvas::TextWidth(std::string_view text) {
   return width;
 }
 
-void QtPrintCanvas::Open() {
-  if (painter_.isActive()) return;
-  if (!painter_.begin(&job_.Paper())) throw PrintError(kPrinterError, ErrorText(kPrinterError));
-  painter_.setFont(font_);
-}
+void QtPrintCanvas::Keep(Drawing drawing) { pages_.back().push_back(std::move(drawing)); }
 
 void QtPrintCanvas::Print(std::string_view text) {
-  Open();
   if (!text.empty()) {
     const QFontMetricsF metrics(font_, &job_.Paper());
-    painter_.setPen(Qt::black);
-    painter_.drawText(QPointF(ToDeviceX(x_), ToDeviceY(y_) + metrics.ascent()), Printable(text));
+    const QPointF place(ToDeviceX(x_), ToDeviceY(y_) + metrics.ascent());
+    Keep([font = font_, place, shown = Printable(text)](QPainter& painter) {
+      painter.setFont(font);
+      painter.setPen(Qt::black);
+      painter.drawText(place, shown);
+    });
   }
   x_ += static_cast<float>(TextWidth(text));
 }
@@ -117,24 +98,25 @@ void QtPrintCanvas::PrintLine(std::string_view text) {
 }
 
 void QtPrintCanvas::DrawLine(float x1, float y1, float x2, float y2) {
-  Open();
-  painter_.setPen(QPen(Qt::black, ToDeviceX(penWidth_)));
-  painter_.drawLine(QPointF(ToDeviceX(x1), ToDeviceY(y1)), QPointF(ToDeviceX(x2), ToDeviceY(y2)));
+  const QLineF line(ToDeviceX(x1), ToDeviceY(y1), ToDeviceX(x2), ToDeviceY(y2));
+  Keep([line, width = ToDeviceX(penWidth_)](QPainter& painter) {
+    painter.setPen(QPen(Qt::black, width));
+    painter.drawLine(line);
+  });
   x_ = x2;
   y_ = y2;
 }
 
 void QtPrintCanvas::NewPage() {
-  Open();
-  if (!job_.Paper().newPage()) throw PrintError(kPrinterError, ErrorText(kPrinterError));
+  pages_.emplace_back();
   x_ = 0;
   y_ = 0;
 }
 
 void QtPrintCanvas::EndDoc() {
-  Open();
-  if (!painter_.end()) throw PrintError(kPrinterError, ErrorText(kPrinterError));
-  job_.Send();
+  job_.Send({static_cast<int>(pages_.size()), [this](QPainter& painter, int page) {
+               for (const Drawing& drawing : pages_[static_cast<size_t>(page)]) drawing(painter);
+             }});
 }
 
 std::string QtPrintCanvas::DeviceName() { return FromQString(job_.DeviceName()); }

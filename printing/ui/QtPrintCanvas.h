@@ -3,21 +3,20 @@
 
 #include <QFont>
 #include <QHash>
-#include <QPainter>
 #include <array>
+#include <functional>
+#include <vector>
 
 #include "printing/PrintCanvas.h"
 #include "printing/ui/PrintJob.h"
 
 namespace logchecker {
 
-// The job opens with the first output and is gone with the canvas when it was not ended.
+// The pages are kept until the job is ended, and are gone with the canvas when it is not.
 class QtPrintCanvas : public PrintCanvas {
  public:
-  QtPrintCanvas(const QPrinter& chosen, const QString& title);
-  ~QtPrintCanvas() override;
-  QtPrintCanvas(const QtPrintCanvas&) = delete;
-  QtPrintCanvas& operator=(const QtPrintCanvas&) = delete;
+  // `chosen` must outlive the canvas.
+  QtPrintCanvas(QPrinter& chosen, const QString& title);
 
   int32_t ScaleMode() override { return scaleMode_; }
   void SetScaleMode(int32_t mode) override { scaleMode_ = mode; }
@@ -44,15 +43,15 @@ class QtPrintCanvas : public PrintCanvas {
 
  private:
   using Widths = std::array<double, 256>;
+  using Drawing = std::function<void(QPainter& painter)>;
 
-  void Open();
-  void FontChanged();
+  void Keep(Drawing drawing);
   const Widths& WidthsOfFont();
   double ToDeviceX(double twips) { return twips / TwipsPerPixelX(); }
   double ToDeviceY(double twips) { return twips / TwipsPerPixelY(); }
 
   PrintJob job_;
-  QPainter painter_;
+  std::vector<std::vector<Drawing>> pages_ = std::vector<std::vector<Drawing>>(1);
   QFont font_;
   QHash<QString, Widths> widths_;  // twips of each character, by font
   int32_t scaleMode_ = kScaleTwips;

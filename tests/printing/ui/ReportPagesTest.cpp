@@ -157,7 +157,7 @@ TEST_F(ReportTest, AccentedAndControlCharactersPrint) {
 
 TEST_F(ReportTest, WithoutAPrinterTheReasonIsClear) {
   const ListView list = ListOf(2, 1);
-  const QPrinter none;
+  QPrinter none;
   QtPrintCanvas canvas(none, "T");
   cPrinting printing(canvas);
   if (!none.printerName().isEmpty()) GTEST_SKIP() << "this machine has a printer";

@@ -30,11 +30,24 @@ inline void AnswerWithFile(QDialog* dialog, const QString& pdf, int copies = 1,
   printer->accept();
 }
 
+// The same with a queue of the system, for the dialog to be changed further and confirmed.
+inline void PickQueue(QDialog* dialog, const char* queue) {
+  auto* printers = Control<QComboBox>(dialog, "printers");
+  const int index = printers->findText(queue);
+  ASSERT_GE(index, 0) << "the dialog does not offer the queue";
+  printers->setCurrentIndex(index);
+}
+
+// What a program prints.
+inline QString OutputOf(const QString& program, const QStringList& arguments) {
+  QProcess process;
+  process.start(program, arguments);
+  process.waitForFinished();
+  return QString::fromUtf8(process.readAllStandardOutput());
+}
+
 inline QString TextOfFile(const QString& pdf) {
-  QProcess reader;
-  reader.start("pdftotext", {"-layout", pdf, "-"});
-  reader.waitForFinished();
-  return QString::fromUtf8(reader.readAllStandardOutput());
+  return OutputOf("pdftotext", {"-layout", pdf, "-"});
 }
 
 }  // namespace logchecker

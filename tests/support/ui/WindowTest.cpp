@@ -5,6 +5,8 @@
 #include <QAccessible>
 #include <QCloseEvent>
 
+#include "printing/ui/PrinterChoice.h"
+
 namespace logchecker {
 
 WindowTest::WindowTest()
@@ -13,6 +15,7 @@ WindowTest::WindowTest()
         stoppedBy_ = error.number();
         concerning_ = error.concerning();
       })) {
+  gLastPrinter.reset();
   // A test before this one may have ended its program; until the next loop none would run.
   QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   QApplication::exec();

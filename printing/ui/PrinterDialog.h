@@ -1,0 +1,25 @@
+// The toolkit's printer dialog, as far as what it offers is done.
+#pragma once
+
+#include <QPrintDialog>
+
+#include "printing/ui/PrinterChoice.h"
+
+namespace logchecker {
+
+// Opens with copies and range in sight, and with the last printer and paper. `printer` takes what
+// the user picks and must outlive the dialog.
+class PrinterDialog : public QPrintDialog {
+ public:
+  PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner);
+
+ private:
+  void TakeLastPrinter();
+  void Offer(const PrinterQuestion& question);
+  void Withhold(const char* control);
+  void ShowOptions();
+
+  QWidget* withheld_;
+};
+
+}  // namespace logchecker
