@@ -6,9 +6,11 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/VersionData.h"
+#include "common/ui/Buttons.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
 #include "platform/StationText.h"
 #include "shell/LoadGeneralSettings.h"
@@ -50,6 +52,8 @@ int RunDesktop(int argc, char** argv) {
   QApplication::setWindowIcon(IconNamed("program"));
   // The end of the program is the main window's, not that of the last window to close.
   QApplication::setQuitOnLastWindowClosed(false);
+  KeepBoxesToOneLine();
+  HoldButtonRules();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   frmMain main;
