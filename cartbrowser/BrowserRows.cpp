@@ -27,6 +27,10 @@ int16_t CountRows(int32_t frameHeight, int32_t rowHeight, float topOffset) {
   return std::max<int16_t>(ToInt16(rows), 0);
 }
 
+int32_t HeightOfWholeRows(int32_t room, int32_t rowHeight) {
+  return std::max(room - kFrameEdges, 0) / rowHeight * rowHeight + kFrameEdges;
+}
+
 RowPlace PlaceOfRow(int16_t row, int32_t rowHeight, int32_t buttonWidth, int32_t frameWidth) {
   RowPlace place;
   place.Top = (row - 1) * rowHeight + kMargin;

@@ -21,6 +21,10 @@ inline constexpr uint32_t kHighlightColour = 0x00C00000U;  // the button of the 
 // is meant. Never more rows than carts from there on.
 int16_t CountRows(int32_t frameHeight, int32_t rowHeight, float topOffset);
 
+// The greatest height of a frame, not above `room`, whose rows are all whole. A part of a row would
+// bring rows that can't be seen, the current one among them.
+int32_t HeightOfWholeRows(int32_t room, int32_t rowHeight);
+
 // Where a row (from 1) stands in its frame.
 struct RowPlace {
   int32_t Top = 0;

@@ -159,6 +159,16 @@ void CartBrowser::BigScroll(ScrollDirection direction) {
   RefreshRows();
 }
 
+void CartBrowser::ScrollRows(int32_t carts) {
+  const auto last = static_cast<float>(std::max(gNumberOfCarts - rowCount_, 0));
+  const float wanted = topOffset_ + static_cast<float>(carts);
+  // A jump may have left the top below that, where there is no way further down.
+  const float top = std::clamp(wanted, 0.0F, std::max(last, topOffset_));
+  if (top == topOffset_) return;
+  topOffset_ = top;
+  RefreshRows();
+}
+
 void CartBrowser::ReturnCartNumber(int32_t cartNumber) {
   PlaceWindow();
   Tag = std::to_string(cartNumber);

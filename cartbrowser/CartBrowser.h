@@ -65,6 +65,9 @@ class CartBrowser : public CartJumper {
   void JumpToCart(int32_t cartNumber) override;
   void SmallScroll(ScrollDirection direction);
   void BigScroll(ScrollDirection direction);
+  // Moves the rows under the cursor, which stays on its row: so many carts down, or up where it is
+  // negative, as far as there are carts for all rows.
+  void ScrollRows(int32_t carts);
   // Hides the window and tells the opener; 0 when nothing was chosen.
   void ReturnCartNumber(int32_t cartNumber);
   void Cancel();

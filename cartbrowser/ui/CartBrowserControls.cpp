@@ -67,6 +67,7 @@ void frmCartBrowser::MakeControls() {
   txtCartNumber_->setMaxLength(static_cast<int>(JumpTextMaxLength()));
   lblJumpToCart_->setBuddy(txtCartNumber_);
   SelectAllOnFocus(*txtCartNumber_);
+  TypeDigitsOnly(*txtCartNumber_);
   cmdJumpCart_ = Named(new QPushButton("&Jump", pnlJumpCart_), "cmdJumpCart");
   cmdJumpCart_->setDefault(true);
   cmdFindCart_ = Named(new QPushButton("&Find", pnlJumpCart_), "cmdFindCart");
@@ -138,8 +139,18 @@ void frmCartBrowser::SetSizes() {
   const int width = jump + scroll + 4 * kMargin + kControlGap;
   const int height = ControlsHeight() + BarHeight() + kLeastRowsHeight + 4 * kMargin;
   setMinimumSize(ToPixels(width) + 1, ToPixels(height) + 1);
-  resize(std::max(ToPixels(kDesignWidth), minimumWidth()), ToPixels(kDesignHeight));
+  const int left = kDesignHeight - HeightBesideRows();
+  resize(std::max(ToPixels(kDesignWidth), minimumWidth()),
+         ToPixels(kDesignHeight - left + HeightOfWholeRows(left, RowHeight())));
 }
+
+// All of the window but the frame of the rows.
+int frmCartBrowser::HeightBesideRows() const {
+  return kMargin + TopOfRows() + kGap + kMargin + BarHeight();
+}
+
+// Of the frame of the rows, in the one around it.
+int frmCartBrowser::TopOfRows() const { return 2 * kMargin + ControlsHeight() + kGap; }
 
 int frmCartBrowser::ControlsHeight() const {
   return std::max(WishedHeight(cmdJumpCart_), WishedHeight(txtCartNumber_));
@@ -195,9 +206,9 @@ void frmCartBrowser::LayOutJumpControls() {
     Place(button, left, kMargin, height, height);
     left -= kGap;
   }
-  const int top = 2 * kMargin + height + kGap;
-  Place(pnlCartLabels_, kMargin, top, width - 2 * kMargin,
-        ToTwips(picBrowser_->height()) - top - kGap);
+  const int room = ToTwips(picBrowser_->height()) - TopOfRows() - kGap;
+  Place(pnlCartLabels_, kMargin, TopOfRows(), width - 2 * kMargin,
+        HeightOfWholeRows(room, RowHeight()));
   LayOutRows(ToTwips(pnlCartLabels_->width()), ToTwips(pnlCartLabels_->height()),
              pnlCartLabels_->ButtonWidth());
 }

@@ -15,10 +15,12 @@
 #include "common/TextHelpers.h"
 #include "common/UnreadableSettings.h"
 #include "common/VersionData.h"
+#include "common/ui/Buttons.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
@@ -168,6 +170,8 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   QApplication::setWindowIcon(IconNamed("program"));
   // The browser is only hidden, and a dialog before it does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
+  KeepBoxesToOneLine();
+  HoldButtonRules();
   return Run(arguments, parts);
 }
 

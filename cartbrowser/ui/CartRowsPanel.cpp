@@ -1,10 +1,12 @@
 #include "cartbrowser/ui/CartRowsPanel.h"
 
 #include <QApplication>
+#include <QWheelEvent>
 #include <algorithm>
 
 #include "cartbrowser/BrowserRows.h"
 #include "cartbrowser/ui/CartRowWidgets.h"
+#include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 
@@ -42,6 +44,15 @@ int CartRowsPanel::ButtonWidth() const {
   const auto digits = static_cast<qsizetype>(CartBrowser::JumpTextMaxLength());
   const int text = QFontMetrics(font()).horizontalAdvance(QString(digits, '0'));
   return std::max(kLeastButtonWidth, ToTwips(text) + kButtonMargins);
+}
+
+// A wheel without notches, or a pad, turns by parts of a row.
+void CartRowsPanel::wheelEvent(QWheelEvent* event) {
+  turned_ += event->angleDelta().y() * QApplication::wheelScrollLines();
+  const int rows = turned_ / QWheelEvent::DefaultDeltasPerStep;
+  turned_ %= QWheelEvent::DefaultDeltasPerStep;
+  event->accept();
+  if (rows != 0) Guarded([this, rows] { browser_.ScrollRows(-rows); });
 }
 
 void CartRowsPanel::MakeRow() {

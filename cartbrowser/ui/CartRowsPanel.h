@@ -31,6 +31,10 @@ class CartRowsPanel : public QFrame {
   // The width that the buttons have, in twips.
   int ButtonWidth() const;
 
+ protected:
+  // The wheel scrolls the rows.
+  void wheelEvent(QWheelEvent* event) override;
+
  private:
   struct RowWidgets {
     CartNumberButton* button = nullptr;
@@ -41,6 +45,7 @@ class CartRowsPanel : public QFrame {
 
   CartBrowser& browser_;
   std::vector<RowWidgets> rows_;
+  int turned_ = 0;  // by the wheel, what is not a whole row yet
 };
 
 }  // namespace logchecker

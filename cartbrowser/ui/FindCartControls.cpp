@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QSignalBlocker>
+#include <QWindow>
 #include <algorithm>
 
 #include "cartbrowser/ui/frmFindCart.h"
@@ -93,15 +94,24 @@ void frmFindCart::ShowEnabled() {
   ui_->frameTimeSearch->setEnabled(shown.LengthEnabled);
 }
 
-// The collapsed window has one height; the other can be made higher. A font that needs more room
-// gets it in both.
+// Of the frame that the desktop draws around the window: none before it is shown.
+int frmFindCart::FrameHeight() const {
+  if (windowHandle() == nullptr) return 0;
+  const QMargins frame = windowHandle()->frameMargins();
+  return frame.top() + frame.bottom();
+}
+
+// The heights are those of the whole window, with its frame. The collapsed window has one; the
+// other can be made higher. A font that needs more room gets it in both.
 void frmFindCart::ShowHeight() {
-  if (shownHeight_ == view().Height) return;
+  const int frame = FrameHeight();
+  if (shownHeight_ == view().Height && shownFrame_ == frame) return;
   shownHeight_ = view().Height;
+  shownFrame_ = frame;
   ui_->lviewItems->hide();
-  const int needed = layout()->minimumSize().height();
+  const int needed = layout()->minimumSize().height() + frame;
   const int more = std::max(needed - ToPixels(kFindCollapsedHeight), 0);
-  const int height = ToPixels(shownHeight_) + more;
+  const int height = ToPixels(shownHeight_) - frame + more;
   setMinimumHeight(height);
   setMaximumHeight(view().ResultsVisible ? QWIDGETSIZE_MAX : height);
   resize(width(), height);

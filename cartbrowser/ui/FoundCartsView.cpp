@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "cartbrowser/ui/FoundCartsModel.h"
@@ -56,16 +57,18 @@ void FoundCartsView::SetColumnWidths(int listWidth) {
 }
 
 void FoundCartsView::ShowResults() {
-  added_.stop();
   // What the user has just selected is shown as it is.
   if (following_) return;
+  added_.stop();
+  addedRows_.clear();
   const QScopedValueRollback<bool> following(following_, true);
   model_->Refresh();
   ShowSortMark();
-  ShowSelection();
+  if (ShowSelection()) scrollTo(currentIndex());
 }
 
-void FoundCartsView::RowAdded() {
+void FoundCartsView::RowAdded(size_t row) {
+  addedRows_.push_back(row);
   if (!added_.isActive()) added_.start(kAddedDelay);
 }
 
@@ -75,24 +78,39 @@ void FoundCartsView::ShowAddedRows() {
   }
   added_.stop();
   const QScopedValueRollback<bool> following(following_, true);
-  if (!search_->results().SortedColumn()) {
+  if (search_->results().SortedColumn()) {
+    TakeSortedRows();
+  } else {
     model_->TakeAddedRows();
-    return;
   }
-  model_->Refresh();
-  ShowSelection();
+  addedRows_.clear();
 }
 
-void FoundCartsView::ShowSelection() {
+// Rows come in anywhere. Where the user has scrolled to, the same rows stay on show.
+void FoundCartsView::TakeSortedRows() {
+  const auto shown = static_cast<size_t>(std::max(indexAt(QPoint()).row(), 0));
+  const int left = horizontalScrollBar()->value();
+  size_t top = shown;
+  for (const size_t row : addedRows_) top += row <= top ? 1 : 0;
+  model_->Refresh();
+  ShowSelection();
+  executeDelayedItemsLayout();
+  const int head = shown == 0 ? 0 : static_cast<int>(top);
+  scrollTo(model_->index(head, kFoundNumber), PositionAtTop);
+  horizontalScrollBar()->setValue(left);
+}
+
+// False when nothing is selected.
+bool FoundCartsView::ShowSelection() {
   const std::optional<size_t> row = search_->results().SelectedRow();
   if (!row) {
     selectionModel()->clear();
-    return;
+    return false;
   }
   const QModelIndex index = model_->index(static_cast<int>(*row), kFoundNumber);
   selectionModel()->setCurrentIndex(
       index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-  scrollTo(index);
+  return true;
 }
 
 void FoundCartsView::ShowSortMark() {

@@ -4,6 +4,7 @@
 #include <QTimer>
 #include <QTreeView>
 #include <string>
+#include <vector>
 
 #include "cartbrowser/FindCart.h"
 
@@ -21,10 +22,10 @@ class FoundCartsView : public QTreeView {
   // view. Called once.
   void SetSearch(FindCart& search);
 
-  // Takes over the results as they are. Rows that were added are taken in a moment, many at a time;
-  // ShowAddedRows takes them at once.
+  // Takes over the results as they are. Rows that were added, each told of with its place, are
+  // taken in a moment, many at a time; ShowAddedRows takes them at once.
   void ShowResults();
-  void RowAdded();
+  void RowAdded(size_t row);
   void ShowAddedRows();
 
   // Gives the columns their widths for a list of this width in twips; they are the user's from then
@@ -45,14 +46,16 @@ class FoundCartsView : public QTreeView {
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:
-  void ShowSelection();
+  bool ShowSelection();
+  void TakeSortedRows();
   void ShowSortMark();
   void BeginDrag();
 
   FindCart* search_ = nullptr;
   FoundCartsModel* model_ = nullptr;
   QTimer added_;
-  bool following_ = false;  // the selection is the search's, not the user's
+  std::vector<size_t> addedRows_;  // since rows were last taken
+  bool following_ = false;         // the selection is the search's, not the user's
 };
 
 }  // namespace logchecker

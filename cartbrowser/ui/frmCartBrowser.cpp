@@ -94,7 +94,8 @@ std::string frmCartBrowser::Fit(const std::string& text, int32_t maxWidth) {
 
 bool frmCartBrowser::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
-    Guarded([this] { Activate(); });
+    // A number that the user is in the midst of typing stays as it is.
+    if (!Activated() || focusWidget() != txtCartNumber_) Guarded([this] { Activate(); });
     KeepFrameOnScreen();
   }
   if (event->type() == QEvent::ApplicationFontChange) {

@@ -77,6 +77,8 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
   // All in twips.
   int ControlsHeight() const;
   int BarHeight() const;
+  int HeightBesideRows() const;
+  int TopOfRows() const;
   int NumberWidth() const;
   int JumpControlsWidth() const;
   void LayOut();

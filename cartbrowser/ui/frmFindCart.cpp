@@ -116,7 +116,10 @@ bool frmFindCart::OnKey(const QKeyEvent& key) {
 }
 
 bool frmFindCart::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) Guarded([this] { Activate(); });
+  if (event->type() == QEvent::WindowActivate) {
+    Guarded([this] { Activate(); });
+    ShowHeight();  // by now the frame is there
+  }
   if (event->type() == QEvent::ApplicationPaletteChange) ColourBoxes();
   return QDialog::event(event);
 }
@@ -140,7 +143,7 @@ void frmFindCart::PaintProgress() {
   ui_->lblSearchCartNumber->repaint();
 }
 
-void frmFindCart::ShowResultAdded(size_t /*row*/) { ui_->lviewItems->RowAdded(); }
+void frmFindCart::ShowResultAdded(size_t row) { ui_->lviewItems->RowAdded(row); }
 
 void frmFindCart::ShowResults() { ui_->lviewItems->ShowResults(); }
 

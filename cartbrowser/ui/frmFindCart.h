@@ -49,9 +49,11 @@ class frmFindCart : public QDialog, private FindCartFace, public FindCart {
   void ShowEnabled();
   void ShowHeight();
   void ColourBoxes();
+  int FrameHeight() const;
 
   std::unique_ptr<Ui::frmFindCart> ui_;
   int shownHeight_ = 0;  // twips; 0 for one that is yet to be set
+  int shownFrame_ = 0;   // pixels, of the frame that counts in it
 };
 
 }  // namespace logchecker

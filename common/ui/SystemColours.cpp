@@ -8,7 +8,7 @@ namespace logchecker {
 
 namespace {
 
-// By number, from the scroll bar's colour to the text of a tool tip.
+// By number, from the scroll bar's colour to that of the menu bar.
 constexpr QPalette::ColorRole kRoles[] = {
     QPalette::Mid,              // 0 scroll bar
     QPalette::Dark,             // 1 desktop
@@ -35,6 +35,12 @@ constexpr QPalette::ColorRole kRoles[] = {
     QPalette::Midlight,         // 22 light
     QPalette::ToolTipText,      // 23 tool tip text
     QPalette::ToolTipBase,      // 24 tool tip background
+    QPalette::AlternateBase,    // 25 alternate button face
+    QPalette::Link,             // 26 link
+    QPalette::Highlight,        // 27 end of the active caption
+    QPalette::Mid,              // 28 end of the inactive caption
+    QPalette::Highlight,        // 29 chosen menu entry
+    QPalette::Window,           // 30 menu bar
 };
 
 }  // namespace

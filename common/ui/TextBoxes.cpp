@@ -9,6 +9,7 @@
 #include <QValidator>
 #include <algorithm>
 #include <functional>
+#include <limits>
 #include <utility>
 
 #include "common/TextHelpers.h"
@@ -72,13 +73,35 @@ void SelectAllText(QLineEdit& textBox) {
 
 namespace {
 
-bool SelectOnFocus(QLineEdit& box, QEvent& event) {
-  if (event.type() == QEvent::FocusIn) {
-    // After the press of the mouse that brought the focus, which would undo it.
-    QTimer::singleShot(0, &box, [&box] { SelectAllText(box); });
-  }
-  return false;
+// A menu, or the window's stepping back, borrows the focus.
+bool IsBorrowed(const QEvent& event) {
+  const Qt::FocusReason reason = static_cast<const QFocusEvent&>(event).reason();
+  return reason == Qt::PopupFocusReason || reason == Qt::ActiveWindowFocusReason;
 }
+
+// A window that is shown gives the focus with the reason that it became active, so what counts is
+// how the box lost it before.
+class SelectOnFocus {
+ public:
+  explicit SelectOnFocus(int characters) : characters_(characters) {}
+
+  bool operator()(QLineEdit& box, QEvent& event) {
+    if (event.type() == QEvent::Show && !event.spontaneous()) lent_ = false;
+    if (event.type() == QEvent::FocusOut) lent_ = IsBorrowed(event);
+    if (event.type() == QEvent::FocusIn && !(std::exchange(lent_, false) && IsBorrowed(event))) {
+      // After the press of the mouse that brought the focus, which would undo it.
+      QTimer::singleShot(0, &box,
+                         [&box, characters = characters_] { box.setSelection(0, characters); });
+    }
+    return false;
+  }
+
+ private:
+  int characters_;
+  bool lent_ = false;
+};
+
+constexpr int kWholeText = std::numeric_limits<int>::max();
 
 // What an input method shows of a text to come goes with the event that ends it.
 void EndInput(QLineEdit& box, const QString& text) {
@@ -91,10 +114,16 @@ bool IsDigit(QChar character) { return IsTextOfKind(FromQString(QString(characte
 
 }  // namespace
 
-void SelectAllOnFocus(QLineEdit& textBox) { new BoxFilter(textBox, SelectOnFocus); }
+void SelectAllOnFocus(QLineEdit& textBox) { SelectHeadOnFocus(textBox, kWholeText); }
 
 // The box with the list has the focus itself, and hands its keys on to its line.
-void SelectAllOnFocus(QComboBox& box) { new BoxFilter(*box.lineEdit(), box, SelectOnFocus); }
+void SelectAllOnFocus(QComboBox& box) {
+  new BoxFilter(*box.lineEdit(), box, SelectOnFocus(kWholeText));
+}
+
+void SelectHeadOnFocus(QLineEdit& textBox, int characters) {
+  new BoxFilter(textBox, SelectOnFocus(characters));
+}
 
 void TypeInUpperCase(QLineEdit& textBox) {
   new BoxFilter(textBox, [](QLineEdit& box, QEvent& event) {

@@ -4,6 +4,7 @@
 #include <QLabel>
 
 #include "common/UserInterface.h"
+#include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StationQString.h"
 #include "dialogs/BrowsePath.h"
 #include "dialogs/ui/HostFolder.h"
@@ -47,14 +48,24 @@ void BrowseDialog::SetStatusText(const std::string& text) { lblStatus_->setText(
 
 void BrowseDialog::accept() {
   const QStringList chosen = selectedFiles();
-  std::string stationPath;
-  if (!chosen.isEmpty() && !StationFolder(chosen.constFirst(), &stationPath)) {
-    Ui().Show({"The folder's name has characters that the station's code page can't hold:\n" +
-                   stationPath,
-               MessageIcon::kExclamation, MessageButtons::kOk, kProgramTitle});
-    return;
-  }
+  if (!chosen.isEmpty() && Refuses(chosen.constFirst())) return;
   QFileDialog::accept();
+}
+
+// The path is for a box and a settings file, where it is one line.
+bool BrowseDialog::Refuses(const QString& folder) {
+  std::string stationPath;
+  std::string reason;
+  if (!StationFolder(folder, &stationPath)) {
+    reason = "characters that the station's code page can't hold";
+  } else if (HasControlCharacters(folder)) {
+    reason = "line breaks or other characters that no settings file can hold";
+  } else {
+    return false;
+  }
+  Ui().Show({"The folder's name has " + reason + ":\n" + stationPath, MessageIcon::kExclamation,
+             MessageButtons::kOk, kProgramTitle});
+  return true;
 }
 
 std::string BrowseForFolder(QWidget* ownerWindow, const std::string& title,

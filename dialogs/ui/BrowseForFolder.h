@@ -23,6 +23,9 @@ class BrowseDialog : public QFileDialog {
   void accept() override;
 
  private:
+  // Says why when the folder can't be taken.
+  bool Refuses(const QString& folder);
+
   QLabel* lblStatus_;
 };
 

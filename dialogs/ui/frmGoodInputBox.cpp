@@ -37,7 +37,6 @@ frmGoodInputBox::frmGoodInputBox(QWidget* parent)
     : QDialog(parent, Qt::Dialog | Qt::WindowStaysOnTopHint),
       ui_(std::make_unique<Ui::frmGoodInputBox>()) {
   ui_->setupUi(this);
-  ui_->lblCaption->setBuddy(ui_->Text1);
   SelectAllOnFocus(*ui_->Text1);
   // What is typed is the answer, and not an item that begins with it.
   ui_->comboCombo->setCompleter(nullptr);
@@ -90,9 +89,11 @@ void frmGoodInputBox::SetItems(const std::vector<std::string>& items) {
   QStringList texts;
   for (const std::string& item : items) texts.push_back(ToQString(item));
   if (UseComboSortedList) texts.sort(Qt::CaseInsensitive);
+  // Nothing is chosen until the user chooses it.
   if (QComboBox* combo = ComboOfMode()) {
     combo->clear();
     combo->addItems(texts);
+    combo->setCurrentIndex(-1);
   } else if (QListWidget* list = ListOfMode()) {
     list->clear();
     list->addItems(texts);
@@ -172,7 +173,8 @@ void frmGoodInputBox::BecomeActive() {
   QWidget* control = ControlOfMode();
   if (ListOfMode() != nullptr) LayOutButtonsUnder(*control);
   if (control == ui_->Text1) SetTLength(ToInt32(Val(FromQString(ui_->TLength->text()))));
-  if (control->isEnabled()) control->setFocus();
+  // One that has it gets it back with the window, as it was left.
+  if (control->isEnabled() && focusWidget() != control) control->setFocus();
   Ui().SetMousePointer(MousePointer::kDefault);
 }
 

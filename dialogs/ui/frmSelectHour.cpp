@@ -1,7 +1,6 @@
 #include "dialogs/ui/frmSelectHour.h"
 
 #include <QKeyEvent>
-#include <QTimer>
 #include <algorithm>
 #include <cstdlib>
 
@@ -90,7 +89,7 @@ void frmSelectHour::Connect() {
   ui_->DayScroll->setInvertedControls(false);
   ui_->YearScroll->installEventFilter(this);
   ui_->DayScroll->installEventFilter(this);
-  ui_->TimeT->installEventFilter(this);
+  SelectHeadOnFocus(*ui_->TimeT, kLongestHourSelected);
   TypeDigitsOnly(*ui_->TimeT);
 }
 
@@ -277,7 +276,6 @@ void frmSelectHour::closeEvent(QCloseEvent* event) {
 bool frmSelectHour::eventFilter(QObject* watched, QEvent* event) {
   if (watched == ui_->DayScroll && FilterDayScroll(event)) return true;
   if (watched == ui_->YearScroll) FilterYearScroll(event);
-  if (watched == ui_->TimeT) FilterHour(event);
   return QDialog::eventFilter(watched, event);
 }
 
@@ -307,12 +305,6 @@ bool frmSelectHour::FilterDayScroll(QEvent* event) {
 void frmSelectHour::FilterYearScroll(QEvent* event) {
   if (event->type() == QEvent::FocusIn) SetColours(*ui_->lblYear, kHighlight, kHighlightText);
   if (event->type() == QEvent::FocusOut) SetColours(*ui_->lblYear, kButtonFace, kButtonText);
-}
-
-void frmSelectHour::FilterHour(QEvent* event) {
-  if (event->type() != QEvent::FocusIn) return;
-  // After the press of the mouse that brought the focus.
-  QTimer::singleShot(0, ui_->TimeT, [this] { ui_->TimeT->setSelection(0, kLongestHourSelected); });
 }
 
 }  // namespace logchecker

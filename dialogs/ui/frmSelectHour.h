@@ -59,7 +59,6 @@ class frmSelectHour : public QDialog {
   void SetDayLook(int16_t label, bool reverse);
   bool FilterDayScroll(QEvent* event);
   void FilterYearScroll(QEvent* event);
-  void FilterHour(QEvent* event);
 
   std::unique_ptr<Ui::frmSelectHour> ui_;
   bool shown_ = false;

@@ -6,10 +6,12 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/VersionData.h"
+#include "common/ui/Buttons.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
+#include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
 #include "platform/StationText.h"
 #include "shell/LoadGeneralSettings.h"
@@ -53,6 +55,8 @@ int RunDesktop(int argc, char** argv) {
   QApplication::setWindowIcon(IconNamed("program"));
   // The end of the program is the main window's, not that of the last window to close.
   QApplication::setQuitOnLastWindowClosed(false);
+  KeepBoxesToOneLine();
+  HoldButtonRules();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   frmMain main;

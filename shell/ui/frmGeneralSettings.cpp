@@ -28,7 +28,6 @@ frmGeneralSettings::frmGeneralSettings(QWidget* parent)
   ui_->setupUi(this);
   SelectAllOnFocus(*ui_->txtNumberSplits);
   TypeDigitsOnly(*ui_->txtNumberSplits);
-  SelectAllOnFocus(*ui_->txtSecondsDifference);
   FillFields();
   connect(ui_->cmdOK, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->cmdCancel, &QPushButton::clicked, this, [this] { reject(); });

@@ -6,7 +6,6 @@
 #include <string>
 #include <utility>
 
-#include "cartbrowser/CartColours.h"
 #include "cartstore/AudiowallParts.h"
 #include "cartstore/BlankCart.h"
 #include "cartstore/OpenAudiowall.h"
@@ -170,13 +169,19 @@ TEST_F(BrowserRowsTest, ControlCharactersStayInACaption) {
   EXPECT_EQ(std::string("A\0B\tC\nD", 7), Read(7).Caption);
 }
 
-TEST(CartColours, AreTheSystemsOrThreeParts) {
-  EXPECT_TRUE(IsSystemColour(0x8000000FU));
-  EXPECT_EQ(SystemColour::kButtonFace, SystemColourOf(0x8000000FU));
-  EXPECT_EQ(SystemColour::kButtonText, SystemColourOf(kButtonTextColour));
-  EXPECT_FALSE(IsSystemColour(kHighlightColour));
-  EXPECT_EQ((Rgb{0, 0, 0xC0}), RgbOf(kHighlightColour));
-  EXPECT_EQ((Rgb{0x56, 0x34, 0x12}), RgbOf(0x7F123456U));
+TEST_F(BrowserRowsTest, AFrameOfWholeRowsHasNoRowThatIsNotSeen) {
+  OpenStore(1000);
+  const std::pair<int32_t, int32_t> cases[] = {{30, 0},    {344, 0},     {345, 315}, {659, 315},
+                                               {660, 630}, {3389, 3150}, {-500, 0},  {0, 0}};
+  for (const auto& [room, rows] : cases) {
+    EXPECT_EQ(rows + 30, HeightOfWholeRows(room, kSingleRowHeight)) << room;
+  }
+  EXPECT_EQ(30 + 630, HeightOfWholeRows(1289, kDoubleRowHeight));
+  for (int32_t room = 345; room < 9000; room += 7) {
+    const int32_t height = HeightOfWholeRows(room, kSingleRowHeight);
+    EXPECT_LE(height, room);
+    EXPECT_EQ((height - 30) / kSingleRowHeight, CountRows(height, kSingleRowHeight, 0)) << room;
+  }
 }
 
 }  // namespace

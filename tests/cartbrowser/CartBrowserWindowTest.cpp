@@ -44,6 +44,24 @@ TEST_F(CartBrowserWindowTest, WithoutANumberInItsTagItStaysWhereItWas) {
   }
 }
 
+TEST_F(CartBrowserWindowTest, RowsScrollUnderTheCursorAsFarAsThereAreCartsForAll) {
+  struct Case {
+    float from;
+    int32_t carts;
+    float to;
+    int refreshes;
+  };
+  const Case cases[] = {{0, 3, 3, 1},   {3, -2, 1, 1},  {1, -9, 0, 1},  {0, -1, 0, 0},
+                        {88, 3, 90, 1}, {90, 1, 90, 0}, {95, 3, 95, 0}, {95, -3, 92, 1}};
+  for (const Case& c : cases) {
+    StandAt(c.from, 4);
+    browser.ScrollRows(c.carts);
+    EXPECT_EQ(c.to, browser.TopOffset()) << c.from << " " << c.carts;
+    EXPECT_EQ(4, browser.CurrentRow());
+    EXPECT_EQ(c.refreshes, face.refreshes) << c.from << " " << c.carts;
+  }
+}
+
 TEST_F(CartBrowserWindowTest, OnlyTheFirstActivationOfAShowingJumps) {
   browser.Tag = "42";
   face.moves.clear();

@@ -61,6 +61,16 @@ def click(desk):
     ended(program, 0, "32\n")
 
 
+def turn_the_wheel(desk):
+    """Three rows a notch; a click takes the row that lies there then."""
+    program, window = start(desk, "30")
+    first = 4 + 28
+    desk.tool("mousemove", "--window", window, 200, first + ROW // 2, "click", "--repeat", 2,
+              "--delay", 60, 5)
+    desk.click(window, 200, first + ROW // 2)
+    ended(program, 0, "36\n")
+
+
 def find_and_choose(desk, config):
     # A cart whose first line no cart before it has.
     wanted = 12
@@ -129,6 +139,7 @@ def main():
         jump_and_choose(desk)
         scroll_and_choose(desk)
         click(desk)
+        turn_the_wheel(desk)
         find_and_choose(desk, config)
         notes(desk)
         leave(desk)

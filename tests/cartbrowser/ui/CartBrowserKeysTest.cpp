@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
+#include <QInputMethodEvent>
 
 #include "tests/cartbrowser/ui/BrowserWindow.h"
 
@@ -44,6 +45,76 @@ TEST_F(CartBrowserKeysTest, TheNumberTakesNothingButDigitsFromTheKeyboard) {
   EXPECT_EQ(Number()->text(), "7");
   Type(Qt::Key_3, "3");
   EXPECT_EQ(Number()->text(), "73");
+}
+
+TEST_F(CartBrowserKeysTest, TheNumberTakesNoLetterOfADeadKey) {
+  SetNumber("7");
+  for (const char* text : {"\xC3\xA9", "x", "\xC2\xB2"}) {
+    QInputMethodEvent event;
+    event.setCommitString(QString::fromUtf8(text));
+    QApplication::sendEvent(Number(), &event);
+    EXPECT_EQ(Number()->text(), "7") << text;
+  }
+}
+
+TEST_F(CartBrowserKeysTest, TheNumberIsSelectedWhenItGetsTheFocusAndNotWhenItGetsItBack) {
+  SetNumber("57");
+  Control<QWidget>(window.get(), "cmdCancel")->setFocus();
+  Number()->deselect();
+  Number()->setFocus(Qt::TabFocusReason);
+  QApplication::processEvents();
+  EXPECT_EQ(Number()->selectedText(), "57");
+  Number()->deselect();
+  QWidget other;
+  other.show();
+  QApplication::setActiveWindow(&other);
+  QApplication::processEvents();
+  QApplication::setActiveWindow(window.get());
+  QApplication::processEvents();
+  EXPECT_TRUE(Number()->hasFocus());
+  EXPECT_EQ(Number()->selectedText(), "");
+  Type(Qt::Key_3, "3");
+  EXPECT_EQ(Number()->text(), "573");
+}
+
+TEST_F(CartBrowserKeysTest, TheNumberGetsTheFocusWheneverTheWindowBecomesActive) {
+  Control<QWidget>(window.get(), "cmdCancel")->setFocus();
+  QWidget other;
+  other.show();
+  QApplication::setActiveWindow(&other);
+  QApplication::processEvents();
+  QApplication::setActiveWindow(window.get());
+  QApplication::processEvents();
+  EXPECT_TRUE(Number()->hasFocus());
+  EXPECT_EQ(Number()->selectedText(), "1");
+}
+
+TEST_F(CartBrowserKeysTest, TabMovesTheFocusWhateverIsHeldWithIt) {
+  Number()->setFocus();
+  Type(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(Jump()->hasFocus());
+  Type(Qt::Key_Backtab, "\t", Qt::ShiftModifier);
+  EXPECT_TRUE(Number()->hasFocus());
+  Type(Qt::Key_Backtab, "\t", Qt::ShiftModifier);
+  EXPECT_TRUE(Control<QWidget>(window.get(), "cmdCancel")->hasFocus());
+  EXPECT_EQ(Number()->text(), "1");
+  window->JumpToCart(97);
+  Control<QWidget>(window.get(), "chkDouble")->setFocus();
+  Type(Qt::Key_Backtab, "\t", Qt::ShiftModifier);
+  EXPECT_EQ(window->RowCount(), 10) << "in the tick box it lays nothing out";
+}
+
+TEST_F(CartBrowserKeysTest, ReturnPressesTheButtonThatHasTheFocus) {
+  const auto press = [this](const char* button) {
+    Control<QWidget>(window.get(), button)->setFocus();
+    Type(Qt::Key_Return, "\r");
+  };
+  press("cmdSmallScroll1");
+  ExpectAt("1", 2);
+  press("cmdBigScroll1");
+  ExpectAt("11", 2);
+  press("cmdCancel");
+  ExpectClosedWith(0);
 }
 
 TEST_F(CartBrowserKeysTest, AKeyPressInTheTickBoxLaysTheRowsOutAgain) {

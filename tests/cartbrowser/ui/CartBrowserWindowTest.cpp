@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmFindCart.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ui/SystemColours.h"
@@ -19,6 +20,11 @@ namespace {
 class CartBrowserFormTest : public BrowserWindowTest {
  protected:
   frmFindCart* Search() { return window->findChild<frmFindCart*>(); }
+  // Lays the rows out for a frame of a height, in pixels, that the window's own never has.
+  void GiveRows(int height) {
+    const auto* frame = Control<CartRowsPanel>(window.get(), "pnlCartLabels");
+    window->LayOutRows(frame->width() * 15, height * 15, frame->ButtonWidth());
+  }
   QImage Picture(QWidget* widget) { return widget->grab().toImage(); }
 };
 
@@ -100,7 +106,7 @@ TEST_F(CartBrowserFormTest, TheLastRowIsCutOffAndAPartOfARowIsCountedTwice) {
   const std::pair<int, int> cases[] = {
       {10 * 21 + 2, 10}, {10 * 21 + 7 + 2, 11}, {10 * 21 + 14 + 2, 12}};
   for (const auto& [height, rows] : cases) {
-    SetFrameHeight(height);
+    GiveRows(height);
     EXPECT_EQ(NumbersShown().size(), static_cast<size_t>(rows)) << height;
     EXPECT_EQ(Button(rows)->geometry().top(), 1 + (rows - 1) * 21);
     EXPECT_EQ(Button(rows)->height(), 21);

@@ -55,6 +55,39 @@ TEST_F(FindCartControlsTest, TheSearchTextIsSelectedWheneverItGetsTheFocus) {
   comesIn([this] { QTest::mouseClick(Text()->lineEdit(), Qt::LeftButton); });
 }
 
+TEST_F(FindCartControlsTest, TheCollapsedWindowHasOneHeightAndTheOtherCanBeMadeHigher) {
+  EXPECT_EQ(window->maximumHeight(), window->height());
+  EXPECT_EQ(window->minimumHeight(), window->height());
+  window->resize(500, 600);
+  EXPECT_EQ(window->frameGeometry().height(), 183);
+  FindText("cart");
+  EXPECT_EQ(window->minimumHeight(), window->height());
+  window->resize(500, 600);
+  EXPECT_EQ(window->height(), 600);
+  window->close();
+  Open();
+  EXPECT_EQ(window->maximumHeight(), window->height());
+  EXPECT_EQ(window->frameGeometry().height(), 183);
+}
+
+TEST_F(FindCartControlsTest, NotesAreSearchedWhenTheirKeyWasPressedJustBefore) {
+  folder().WriteFile("part1/VEL00050.TXT", "needle");
+  Text()->setEditText("needle");
+  Key(Qt::Key_N, Qt::AltModifier);
+  Key(Qt::Key_Return);
+  EXPECT_EQ(Numbers(), QStringList{"50"});
+}
+
+TEST_F(FindCartControlsTest, ReturnPressesTheButtonThatHasTheFocus) {
+  walk.atCart = [&](int cart) {
+    if (cart != 60) return;
+    EXPECT_TRUE(Stop()->hasFocus());
+    Key(Qt::Key_Return);
+  };
+  FindText("cart");
+  EXPECT_EQ(walk.carts, 60);
+}
+
 TEST_F(FindCartControlsTest, AClickOfTheMouseOnAHeadingSorts) {
   FindText("cart");
   ClickHeader(kFoundLine1);

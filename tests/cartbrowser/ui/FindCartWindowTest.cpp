@@ -72,7 +72,7 @@ TEST_F(FindCartFormTest, EverythingHasANameAndAPlaceInTheTabOrder) {
 }
 
 TEST_F(FindCartFormTest, BeginsCollapsedAndGrowsForTheResults) {
-  EXPECT_EQ(window->height(), 183);
+  EXPECT_EQ(window->frameGeometry().height(), 183);
   EXPECT_FALSE(List()->isVisible());
   EXPECT_TRUE(Text()->hasFocus());
   EXPECT_FALSE(Stop()->isEnabled());
@@ -82,14 +82,14 @@ TEST_F(FindCartFormTest, BeginsCollapsedAndGrowsForTheResults) {
   EXPECT_EQ(The<QComboBox>("comboLength")->currentText(), "10 Seconds");
   EXPECT_EQ(The<QComboBox>("cmbSearchDirection")->currentText(), "Forwards");
   FindText("cart");
-  EXPECT_EQ(window->height(), 342);
+  EXPECT_EQ(window->frameGeometry().height(), 342);
   EXPECT_TRUE(List()->isVisible());
   window->resize(700, 600);
   Find()->click();
-  EXPECT_EQ(window->height(), 342);
+  EXPECT_EQ(window->frameGeometry().height(), 342);
   window->close();
   Open();
-  EXPECT_EQ(window->height(), 183);
+  EXPECT_EQ(window->frameGeometry().height(), 183);
   EXPECT_FALSE(List()->isVisible());
 }
 
@@ -343,6 +343,11 @@ TEST_F(FindCartFormTest, ControlTabFlipsTheTabs) {
   tabs->setCurrentIndex(1);
   Key(Qt::Key_Q, Qt::ControlModifier);
   EXPECT_EQ(tabs->currentIndex(), 1) << "a tab that was clicked stays";
+  Key(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(tabs->currentIndex(), 0) << "with Shift held too";
+  Key(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_EQ(tabs->currentIndex(), 0) << "Shift alone moves the focus";
+  Key(Qt::Key_Tab, Qt::ControlModifier);
   EXPECT_TRUE(window->isVisible());
 }
 

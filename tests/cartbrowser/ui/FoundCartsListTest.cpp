@@ -34,6 +34,42 @@ TEST_F(FoundCartsListTest, ARowThatIsHeldStaysTheSelectedOne) {
   EXPECT_EQ(List()->Tag, "") << "not yet a drag";
 }
 
+TEST_F(FoundCartsListTest, WhereTheUserHasScrolledToRowsStayWhileOthersComeInAbove) {
+  for (int16_t cart = 1; cart <= 300; ++cart) PutCart(cart, 30);
+  for (const bool selected : {false, true}) {
+    walk.atCart = nullptr;
+    FindText("*");
+    // By number, the last one first: every new row is the head of the list.
+    while (!window->results().Descending()) {
+      emit List()->header()->sectionClicked(kFoundNumber);
+    }
+    walk.carts = 0;
+    const auto top = [this] { return Cell(List()->indexAt(QPoint()).row(), kFoundNumber); };
+    const auto select = [this](int row) {
+      List()->selectionModel()->setCurrentIndex(
+          List()->model()->index(row, kFoundNumber),
+          QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    };
+    walk.atCart = [&](int cart) {
+      if (cart == 100) {
+        List()->ShowAddedRows();
+        EXPECT_EQ(top(), "100") << "at its head the list shows what comes";
+        if (selected) select(0);
+        List()->scrollTo(List()->model()->index(50, kFoundNumber),
+                         QAbstractItemView::PositionAtTop);
+        ASSERT_EQ(top(), "50");
+      }
+      if (cart == 130 || cart == 180) {
+        List()->ShowAddedRows();
+        EXPECT_EQ(top(), "50");
+        EXPECT_EQ(SelectedRow(), selected ? cart - 100 : -1);
+      }
+    };
+    FindText("*");
+    EXPECT_EQ(walk.carts, 300);
+  }
+}
+
 TEST_F(FoundCartsListTest, AKeyGoesOnFromTheRowAsItStandsByThen) {
   FindText("cart");
   for (int click = 0; click < 2; ++click) emit List()->header()->sectionClicked(kFoundNumber);

@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -58,6 +59,57 @@ TEST_F(CartLocationsTest, ElevenEmptyPathsAreEqualAndTickTheBox) {
   EXPECT_TRUE(One()->isChecked());
   EXPECT_TRUE(Box(1)->isEnabled());
   EXPECT_FALSE(Box(2)->isEnabled());
+}
+
+TEST_F(CartLocationsTest, ElevenEqualPathsTickTheBoxHoweverTheyAreWritten) {
+  for (AudiowallPart& part : gAudiowallParts) part.Path = "C:\\AUDIO";
+  gAudiowallParts[6].Path = " c:\\Audio ";
+  Open();
+  EXPECT_TRUE(One()->isChecked());
+  EXPECT_FALSE(Box(7)->isEnabled());
+  for (int part = 0; part < 11; ++part) {
+    gAudiowallParts[part].Path += "2";
+    Open();
+    EXPECT_FALSE(One()->isChecked()) << part;
+    gAudiowallParts[part].Path.pop_back();
+  }
+}
+
+TEST_F(CartLocationsTest, ARowTakesOneLineThatTheCodePageCanHold) {
+  for (AudiowallPart& part : gAudiowallParts) part.Path = "C:\\A";
+  Open();
+  One()->setChecked(false);
+  for (int part = 1; part <= 11; ++part) {
+    Box(part)->clear();
+    QTest::sendKeyEvent(QTest::Click, Box(part), Qt::Key_unknown, QString::fromUtf8("\xE2\x98\x83"),
+                        {});
+    EXPECT_EQ(Text(part), "") << part;
+    QApplication::clipboard()->setText("C:\\NEW\n[Oops]\nx=1\n");
+    QTest::keyClick(Box(part), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Text(part), "C:\\NEW[Oops]x=1") << part;
+  }
+}
+
+TEST_F(CartLocationsTest, ReturnPressesTheButtonThatHasTheFocus) {
+  for (int part = 1; part <= 11; ++part) {
+    gAudiowallParts[part - 1].Path = "C:\\A" + std::to_string(part);
+  }
+  Open();
+  for (int part = 1; part <= 11; ++part) {
+    auto* browse = Control<QPushButton>(dialog.get(),
+                                        qPrintable(QString("cmdChangeCartLocation%1").arg(part)));
+    browse->setFocus();
+    DialogScript script([this](QDialog* chooser) {
+      EXPECT_EQ(chooser->parentWidget(), dialog.get());
+      auto* files = qobject_cast<QFileDialog*>(chooser);
+      ASSERT_NE(files, nullptr);
+      EXPECT_FALSE(files->testOption(QFileDialog::ReadOnly)) << "folders can be made";
+      chooser->reject();
+    });
+    QTest::keyClick(browse, Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+  }
+  EXPECT_EQ(Stored(1), "missing");
 }
 
 TEST_F(CartLocationsTest, PathsShowTrimmedAndInUpperCase) {

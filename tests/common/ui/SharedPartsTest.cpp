@@ -56,6 +56,53 @@ TEST_F(SharedPartsTest, ColoursAreRedFirstOrTheDesktopsOwn) {
             palette.color(QPalette::WindowText));
 }
 
+TEST_F(SharedPartsTest, EachColourOfTheDesktopIsOneOfThePalette) {
+  const QPalette::ColorRole roles[] = {QPalette::Mid,
+                                       QPalette::Dark,
+                                       QPalette::Highlight,
+                                       QPalette::Mid,
+                                       QPalette::Window,
+                                       QPalette::Base,
+                                       QPalette::WindowText,
+                                       QPalette::WindowText,
+                                       QPalette::Text,
+                                       QPalette::HighlightedText,
+                                       QPalette::Mid,
+                                       QPalette::Mid,
+                                       QPalette::Dark,
+                                       QPalette::Highlight,
+                                       QPalette::HighlightedText,
+                                       QPalette::Button,
+                                       QPalette::Dark,
+                                       QPalette::PlaceholderText,
+                                       QPalette::ButtonText,
+                                       QPalette::WindowText,
+                                       QPalette::Light,
+                                       QPalette::Shadow,
+                                       QPalette::Midlight,
+                                       QPalette::ToolTipText,
+                                       QPalette::ToolTipBase,
+                                       QPalette::AlternateBase,
+                                       QPalette::Link,
+                                       QPalette::Highlight,
+                                       QPalette::Mid,
+                                       QPalette::Highlight,
+                                       QPalette::Window};
+  // No two colours of it are the same.
+  QPalette palette;
+  for (int role = 0; role < QPalette::NColorRoles; ++role) {
+    palette.setColor(static_cast<QPalette::ColorRole>(role), QColor(role, 2 * role, 100));
+  }
+  for (uint32_t number = 0; number < std::size(roles); ++number) {
+    EXPECT_EQ(ToQColor(static_cast<int32_t>(0x80000000U + number), palette),
+              palette.color(roles[number]))
+        << number;
+  }
+  EXPECT_EQ(ToQColor(static_cast<int32_t>(0x8000001FU), palette),
+            palette.color(QPalette::WindowText))
+      << "31 is none";
+}
+
 TEST_F(SharedPartsTest, EveryIconIsDrawnAtEveryScale) {
   for (const char* name : {"program", "load-day", "check-day", "save", "print", "no-problems"}) {
     for (const double scale : {1.0, 1.5, 2.0}) {

@@ -66,6 +66,39 @@ TEST_F(BrowseForFolderTest, ACallersOwnCallbackTakesThePlaceOfTheBuiltInOne) {
   EXPECT_EQ(told, std::vector<std::string>{"C:\\x"});
 }
 
+TEST_F(BrowseForFolderTest, TheChooserIsTheToolkitsOwnOverItsOwner) {
+  QWidget owner;
+  for (const bool newStyle : {false, true}) {
+    DialogScript script([&](QDialog* dialog) {
+      auto* files = qobject_cast<QFileDialog*>(dialog);
+      ASSERT_NE(files, nullptr);
+      EXPECT_EQ(files->parentWidget(), &owner);
+      EXPECT_TRUE(files->testOption(QFileDialog::DontUseNativeDialog));
+      EXPECT_TRUE(files->testOption(QFileDialog::ShowDirsOnly));
+      EXPECT_EQ(files->testOption(QFileDialog::ReadOnly), !newStyle) << "folders can be made";
+      dialog->reject();
+    });
+    BrowseForFolder(&owner, "T", "", newStyle, {});
+  }
+}
+
+TEST_F(BrowseForFolderTest, AFolderWhoseNameIsMoreThanALineIsRefused) {
+  const QString named = QString::fromStdString(ToHostPath(folder().Path())) + "/East\n[Oops]\nWest";
+  ASSERT_TRUE(QDir().mkdir(named));
+  DialogScript script([&](QDialog* dialog) {
+    auto* files = qobject_cast<QFileDialog*>(dialog);
+    files->setDirectory(named);
+    Control<QLineEdit>(files, "fileNameEdit")->clear();
+    QMetaObject::invokeMethod(files, "accept");
+    EXPECT_TRUE(files->isVisible());
+    files->reject();
+  });
+  EXPECT_EQ(BrowseForFolder(nullptr, "T", "", true, {}), "");
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_EQ(ui.messages[0].icon, MessageIcon::kExclamation);
+  EXPECT_EQ(ui.messages[0].text.find("The folder's name has line breaks or other characters"), 0U);
+}
+
 TEST_F(BrowseForFolderTest, TheFolderInHandShowsAsTheStatusText) {
   Os().directories.MakeDirectory(Path("inner"));
   DialogScript script([&](QDialog* dialog) {

@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
+#include <tuple>
 
 #include "common/ui/Twips.h"
 #include "dialogs/ui/frmGoodInputBox.h"
@@ -65,6 +66,9 @@ TEST_F(GoodInputBoxTest, EachModeShowsItsControlAndAnswersWithIt) {
     box.Unload();
     Show(row.mode);
     if (row.mode == &frmGoodInputBox::UseText) box.SetText("typed");
+    if (auto* combo = qobject_cast<QComboBox*>(Part<QWidget>(row.control))) {
+      combo->setCurrentIndex(0);
+    }
     if (row.mode == &frmGoodInputBox::UseListMultiNonSel) {
       Part<QListWidget>("listMultiNonSel")->setCurrentRow(1);
     }
@@ -130,6 +134,93 @@ TEST_F(GoodInputBoxTest, OneRowAnswersWithItsPositionByADoubleClickToo) {
   QTest::mouseDClick(list->viewport(), Qt::LeftButton, {}, place);
   EXPECT_EQ(box.Tag, "3");
   EXPECT_FALSE(box.isVisible());
+}
+
+TEST_F(GoodInputBoxTest, ListsBeginWithNothingChosen) {
+  for (const auto& [mode, name] :
+       {std::pair(&frmGoodInputBox::UseComboCombo, "comboCombo"),
+        std::pair(&frmGoodInputBox::UseComboList, "comboList"),
+        std::pair(&frmGoodInputBox::UseComboSortedList, "comboSortedList")}) {
+    box.Unload();
+    Show(mode);
+    EXPECT_EQ(Part<QComboBox>(name)->currentIndex(), -1) << name;
+    EXPECT_EQ(Part<QComboBox>(name)->currentText(), "") << name;
+    Press("cmdOK");
+    EXPECT_EQ(box.CancelL(), "0");
+    EXPECT_EQ(box.Tag, "") << name;
+  }
+  for (const auto& [mode, name] :
+       {std::pair(&frmGoodInputBox::UseListMulti, "listMulti"),
+        std::pair(&frmGoodInputBox::UseListMultiNonSel, "listMultiNonSel")}) {
+    box.hide();
+    box.Unload();
+    Show(mode);
+    QApplication::processEvents();
+    EXPECT_TRUE(Part<QListWidget>(name)->hasFocus());
+    EXPECT_TRUE(Part<QListWidget>(name)->selectedItems().isEmpty()) << name;
+  }
+  Press("cmdOK");
+  EXPECT_TRUE(box.isVisible());
+  EXPECT_EQ(ui.messages.size(), 1U);
+}
+
+TEST_F(GoodInputBoxTest, APresetTextStandsInTheBoxWhateverTheListHolds) {
+  for (const char* preset : {"own", "plum", ""}) {
+    DialogScript script([&](QDialog* dialog) {
+      EXPECT_EQ(Control<QComboBox>(dialog, "comboCombo")->currentText(), preset);
+      EXPECT_EQ(Control<QComboBox>(dialog, "comboCombo")->count(), 3);
+      Control<QPushButton>(dialog, "cmdOK")->click();
+    });
+    EXPECT_EQ(AskForTextOrOneOf(nullptr, "Name?", kItems, preset), preset);
+  }
+}
+
+TEST_F(GoodInputBoxTest, ItStandsOverItsOwner) {
+  QWidget owner;
+  const auto seen = [&](QDialog* dialog) {
+    EXPECT_EQ(dialog->parentWidget(), &owner);
+    EXPECT_TRUE(dialog->isModal());
+    dialog->reject();
+  };
+  DialogScript script;
+  for (int kind = 0; kind < 5; ++kind) script.Then(seen);
+  AskForText(&owner, "?", "", 0);
+  AskForTextOrOneOf(&owner, "?", kItems, "");
+  AskForOneOf(&owner, "?", kItems, true);
+  AskForRow(&owner, "?", kItems);
+  AskForRows(&owner, "?", kItems);
+}
+
+TEST_F(GoodInputBoxTest, ReturnPressesTheButtonThatHasTheFocus) {
+  box.Tag = "old";
+  Show(&frmGoodInputBox::UseText);
+  Part<QWidget>("cmdCancel")->setFocus();
+  QTest::keyClick(Part<QWidget>("cmdCancel"), Qt::Key_Return);
+  EXPECT_EQ(box.CancelL(), "1");
+  EXPECT_FALSE(box.isVisible());
+  Show(&frmGoodInputBox::UseText);
+  QTest::keyClick(Part<QWidget>("Text1"), Qt::Key_Return);
+  EXPECT_EQ(box.CancelL(), "0") << "in the box it is OK";
+}
+
+TEST_F(GoodInputBoxTest, ATextThatIsBeingTypedIsLeftAloneWhenTheBoxComesBack) {
+  for (const auto& [mode, name] : {std::pair(&frmGoodInputBox::UseText, "Text1"),
+                                   std::pair(&frmGoodInputBox::UseComboCombo, "comboCombo")}) {
+    box.hide();
+    box.Unload();
+    Show(mode);
+    QApplication::processEvents();
+    QTest::keyClicks(Part<QWidget>(name), "mine");
+    QWidget other;
+    other.show();
+    QApplication::setActiveWindow(&other);
+    QApplication::processEvents();
+    QApplication::setActiveWindow(&box);
+    QApplication::processEvents();
+    QTest::keyClicks(Part<QWidget>(name), "!");
+    Press("cmdOK");
+    EXPECT_EQ(box.Tag, "mine!") << name;
+  }
 }
 
 TEST_F(GoodInputBoxTest, WithoutARowTheBoxSaysSoAndStays) {
@@ -280,13 +371,13 @@ TEST_F(GoodInputBoxTest, TheFrontAsksForEachKind) {
     DialogScript script(ok);
     EXPECT_EQ(AskForTextOrOneOf(nullptr, "Name?", kItems, "own"), "own");
   }
-  {
-    DialogScript script(ok);
-    EXPECT_EQ(AskForOneOf(nullptr, "Name?", kItems, false), "pear");
-  }
-  {
-    DialogScript script(ok);
-    EXPECT_EQ(AskForOneOf(nullptr, "Name?", kItems, true), "apple");
+  for (const auto& [sorted, name, first] :
+       {std::tuple(false, "comboList", "pear"), std::tuple(true, "comboSortedList", "apple")}) {
+    DialogScript script([&](QDialog* dialog) {
+      Control<QComboBox>(dialog, name)->setCurrentIndex(0);
+      ok(dialog);
+    });
+    EXPECT_EQ(AskForOneOf(nullptr, "Name?", kItems, sorted), first);
   }
   {
     DialogScript script([&](QDialog* dialog) {

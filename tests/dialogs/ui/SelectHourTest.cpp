@@ -407,6 +407,59 @@ TEST_F(SelectHourTest, ATagThatIsNoDateReadsAsDayZero) {
   EXPECT_EQ(Hour()->text(), "0");
 }
 
+TEST_F(SelectHourTest, TheHourIsLeftAloneWhenItGetsTheFocusBack) {
+  Open("4640212");
+  Hour()->setFocus();
+  QApplication::processEvents();
+  QTest::keyClick(Hour(), Qt::Key_End);
+  QWidget other;
+  other.show();
+  QApplication::setActiveWindow(&other);
+  QApplication::setActiveWindow(&picker);
+  QApplication::processEvents();
+  EXPECT_TRUE(Hour()->hasFocus());
+  EXPECT_EQ(Hour()->selectedText(), "");
+}
+
+TEST_F(SelectHourTest, NoMoreThanThreeCharactersOfTheHourAreSelected) {
+  Open("4640212");
+  Days()->setFocus();
+  Hour()->setText("12345");
+  Hour()->setFocus();
+  QApplication::processEvents();
+  EXPECT_EQ(Hour()->selectedText(), "123");
+}
+
+TEST_F(SelectHourTest, TabMovesTheFocusWhateverIsHeldWithIt) {
+  Open("4640212");
+  Hour()->setFocus();
+  const auto tab = [this](Qt::Key key, Qt::KeyboardModifiers held) {
+    QTest::sendKeyEvent(QTest::Click, picker.focusWidget(), key, "\t", held);
+    return picker.focusWidget()->objectName();
+  };
+  EXPECT_EQ(tab(Qt::Key_Backtab, Qt::ShiftModifier), "YearScroll");
+  EXPECT_EQ(tab(Qt::Key_Tab, {}), "TimeT");
+  EXPECT_EQ(tab(Qt::Key_Tab, {}), "txtMinutes");
+  EXPECT_EQ(tab(Qt::Key_Backtab, Qt::ShiftModifier), "TimeT");
+  EXPECT_EQ(tab(Qt::Key_Tab, Qt::ControlModifier), "TimeT") << "Control makes it another key";
+  Days()->setFocus();
+  EXPECT_EQ(tab(Qt::Key_Tab, {}), "MonthList");
+  EXPECT_EQ(tab(Qt::Key_Backtab, Qt::ShiftModifier), "DayScroll");
+  EXPECT_EQ(Hour()->text(), "12");
+}
+
+TEST_F(SelectHourTest, ReturnPressesTheButtonThatHasTheFocus) {
+  Open("4640212");
+  Control<QWidget>(&picker, "CancelB")->setFocus();
+  QTest::keyClick(picker.focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(picker.Tag, "");
+  EXPECT_FALSE(picker.isVisible());
+  Open("4640212");
+  Days()->setFocus();
+  QTest::keyClick(Days(), Qt::Key_Return);
+  EXPECT_EQ(picker.Tag, "4640212") << "elsewhere it is OK";
+}
+
 TEST_F(SelectHourTest, EverythingHasANameAndTabGoesFromTopToBottom) {
   Open("4640200");
   ExpectEverythingNamed(&picker);

@@ -145,6 +145,26 @@ TEST_F(GeneralSettingsTest, TheNumbersTextIsSelectedOnFocus) {
   EXPECT_EQ(Splits()->selectedText(), "2");
 }
 
+TEST_F(GeneralSettingsTest, TheToleranceIsNotSelectedOnFocus) {
+  Splits()->setFocus();
+  Seconds()->deselect();
+  Seconds()->setFocus(Qt::MouseFocusReason);
+  QApplication::processEvents();
+  EXPECT_EQ(Seconds()->selectedText(), "");
+}
+
+TEST_F(GeneralSettingsTest, ReturnPressesTheButtonThatHasTheFocus) {
+  Splits()->setText("7");
+  Control<QWidget>(dialog.get(), "cmdCancel")->setFocus();
+  QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(folder().ReadFile("VELKLT.INI"), kFile);
+  Open();
+  Splits()->setText("7");
+  QTest::keyClick(Seconds(), Qt::Key_Return);
+  EXPECT_EQ(gGeneralSettings.NumberActiveSplits, 7) << "in a box it is OK";
+}
+
 TEST_F(GeneralSettingsTest, CancelAndEscapeStoreNothing) {
   for (int way = 0; way < 2; ++way) {
     Open();

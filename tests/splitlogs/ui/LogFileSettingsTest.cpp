@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QClipboard>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -130,6 +131,55 @@ TEST_F(LogFileSettingsTest, ACharacterThatTheCodePageCantHoldIsNotTaken) {
   QTest::sendKeyEvent(QTest::Click, Box("txtSplitName"), Qt::Key_unknown,
                       QString::fromUtf8("\xE2\x98\x83"), {});
   EXPECT_EQ(Text("txtSplitName"), "");
+}
+
+TEST_F(LogFileSettingsTest, WhatIsPastedIsOneLineAndAddsNoneToTheFile) {
+  const char* pasted = "East\n[Oops]\r\nSplitName3=West\n";
+  for (const char* name : {"txtSplitName", "txtSourceDirectory", "txtPreSuffix", "txtFormat",
+                           "txtFileExtension", "txtReconcileFileExtension", "txtLogTXChainCode"}) {
+    QApplication::clipboard()->setText(pasted);
+    Box(name)->clear();
+    Box(name)->setFocus();
+    QTest::keyClick(Box(name), Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(Text(name), "East[Oops]SplitName3=West") << name;
+  }
+  ui.answers = {MessageAnswer::kNo};
+  Press("cmdOK");
+  const std::string bytes = Bytes();
+  EXPECT_NE(bytes.find("SplitName2=East[Oops]SplitName3=West\r\n"), std::string::npos) << bytes;
+  EXPECT_EQ(bytes.find("\n[Oops]"), std::string::npos) << bytes;
+  EXPECT_EQ(bytes.find("\nSplitName3"), std::string::npos) << bytes;
+}
+
+TEST_F(LogFileSettingsTest, ReturnPressesTheButtonThatHasTheFocus) {
+  const auto press = [this](const char* button) {
+    Control<QWidget>(dialog.get(), button)->setFocus();
+    QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+  };
+  {
+    DialogScript script([this](QDialog* chooser) {
+      EXPECT_EQ(chooser->parentWidget(), dialog.get());
+      auto* files = qobject_cast<QFileDialog*>(chooser);
+      ASSERT_NE(files, nullptr);
+      EXPECT_FALSE(files->testOption(QFileDialog::ReadOnly)) << "folders can be made";
+      chooser->reject();
+    });
+    press("cmdBrowseSource");
+  }
+  EXPECT_TRUE(dialog->isVisible());
+  press("cmdCancel");
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_EQ(Bytes(), kFile);
+  Open();
+  QTest::keyClick(Box("txtFormat"), Qt::Key_Return);
+  EXPECT_FALSE(dialog->isVisible());
+  EXPECT_NE(Bytes(), kFile) << "in a box it is OK";
+}
+
+TEST_F(LogFileSettingsTest, TheSuffixCountsWhenItsKeyWasPressedJustBefore) {
+  QTest::keyClick(Box("txtFormat"), Qt::Key_S, Qt::AltModifier);
+  QTest::keyClick(dialog->focusWidget(), Qt::Key_Return);
+  EXPECT_NE(Bytes().find("Suffix2=1"), std::string::npos);
 }
 
 TEST_F(LogFileSettingsTest, OkWritesTheKeysInTheirOrderAndKeepsTheRest) {

@@ -3,6 +3,9 @@
 
 #include <QApplication>
 
+#include "common/ui/Buttons.h"
+#include "common/ui/SingleLineBoxes.h"
+
 int main(int argc, char** argv) {
   if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("LC_ALL", "C.UTF-8");
@@ -10,5 +13,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setStyle("Fusion");
   QApplication::setQuitOnLastWindowClosed(false);
+  logchecker::KeepBoxesToOneLine();
+  logchecker::HoldButtonRules();
   return RUN_ALL_TESTS();
 }

@@ -94,10 +94,14 @@ void ExpectNamed(QAccessibleInterface* part, int depth) {
 
 }  // namespace
 
+void SendByUser(QWidget* widget, QEvent& event) {
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  QApplication::instance()->notify(widget, &event);
+}
+
 bool CloseByUser(QWidget* window) {
   QCloseEvent event;
-  QSpontaneKeyEvent::setSpontaneous(&event);
-  QApplication::instance()->notify(window, &event);
+  SendByUser(window, event);
   return event.isAccepted();
 }
 

@@ -67,6 +67,10 @@ class DialogScript : public QObject {
   QStringList texts_;
 };
 
+// Sends an event as one that comes from the user's hand, which goes on to the widgets around the
+// one that does not take it.
+void SendByUser(QWidget* widget, QEvent& event);
+
 // Asks a window to close as the user does, by its frame. Whether it lets itself be closed.
 bool CloseByUser(QWidget* window);
 
