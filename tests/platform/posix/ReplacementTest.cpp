@@ -152,6 +152,7 @@ TEST_F(ReplacementTest, SettingsThatMayNotBeReadOrWrittenStayAsTheyAre) {
     EXPECT_EQ(kPermissionDenied, Os().files.OpenForOutput(file, folder().Path("VELKLT.INI")));
     Os().files.Close(file);
   }
+  chmod(folder().Path("VELKLT.INI").c_str(), 0600);
   EXPECT_EQ("[General]\r\nKey=old\r\n", folder().ReadFile("VELKLT.INI"));
 }
 
