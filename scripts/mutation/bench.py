@@ -18,7 +18,7 @@ ROOMS = ("platform common dialogs printing notes cartstore splitlogs cartbrowser
 # What a person does with whole programs, by the room of the windows concerned.
 DESKTOP = {"cartbrowser": "cart_browser", "notes": "cart_browser", "printing": "print"}
 # Endurance: a minute of rounds that look for leaks and for what a killed process leaves.
-PASSED_OVER = ("Soak.*:KillTest.*:TwoInstances*.*:HostileFiles*.*:*.ALogOfMoreThanAMillionRows*:"
+PASSED_OVER = ("Soak.*:KillTest.*:TwoInstances.*:*.OneLineOf256MiB*:*.AFileOfNothingBut*:*.ALogOfMoreThanAMillionRows*:"
                "*.AStationOfAnySizeThatIsTakenCanBeChecked:*.ASettingsFileOf16MiB*")
 MEMORY = 6 << 30  # bytes that a program of the tests may take
 OPTIONS = ("-DBUILD_SHARED_LIBS=ON", "-DCMAKE_LINK_DEPENDS_NO_SHARED=ON")
@@ -114,9 +114,13 @@ class Bench:
                     users.add(above)
         return [room] + [above for above in ROOMS if above in users and above != room]
 
-    def that_see(self, file):
-        """The programs that see a source: the room's own, those of the rooms above, the day's work."""
+    def that_see(self, file, near):
+        """The programs that see a source: the room's own, those of the rooms above, the day's work. `near`
+        leaves the rooms above and the desktop out: the room's own programs."""
         room = file.split("/")[0]
+        if near:
+            kinds = ("tests", "ui_tests") if halves(file) == "plain" else ("ui_tests",)
+            return [self.programs[name] for name in (f"{room}_{kind}" for kind in kinds) if name in self.programs]
         names = [f"{above}_ui_tests" for above in self.used_by(room)]
         if halves(file) == "plain":
             names = [f"{above}_tests" for above in self.used_by(room)] + names
