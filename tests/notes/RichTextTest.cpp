@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace logchecker {
 namespace {
 
@@ -95,6 +97,87 @@ TEST(RichTextTest, TablesListsFieldsAndWhatIsPassedOver) {
       {"generator", "{\\*\\generator Some program;}a", "a"},
   };
   for (const PlainCase& row : cases) EXPECT_EQ(PlainOf(row.body), row.text) << row.feature;
+}
+
+TEST(RichTextTest, EachDestinationThatIsNoTextOfTheNoteIsPassedOver) {
+  for (const char* word : {"annotation",
+                           "colorschememapping",
+                           "datastore",
+                           "do",
+                           "filetbl",
+                           "fldinst",
+                           "footer",
+                           "footerf",
+                           "footerl",
+                           "footerr",
+                           "footnote",
+                           "generator",
+                           "header",
+                           "headerf",
+                           "headerl",
+                           "headerr",
+                           "info",
+                           "latentstyles",
+                           "listoverridetable",
+                           "listtable",
+                           "nonshppict",
+                           "objclass",
+                           "objdata",
+                           "objname",
+                           "pict",
+                           "private",
+                           "revtbl",
+                           "rxe",
+                           "shppict",
+                           "sp",
+                           "stylesheet",
+                           "tc",
+                           "template",
+                           "themedata",
+                           "xe"}) {
+    EXPECT_EQ(PlainOf("a{\\" + std::string(word) + " no{\\b more}}b"), "ab") << word;
+  }
+}
+
+TEST(RichTextTest, EachWordForACharacterIsThatCharacter) {
+  const std::pair<const char*, const char*> characters[] = {
+      {"bullet", "\u2022"},  {"emdash", "\u2014"},    {"emspace", "\u2003"},   {"endash", "\u2013"},
+      {"enspace", "\u2002"}, {"ldblquote", "\u201C"}, {"line", "\n"},          {"lquote", "\u2018"},
+      {"ltrmark", "\u200E"}, {"qmspace", "\u2005"},   {"rdblquote", "\u201D"}, {"rquote", "\u2019"},
+      {"rtlmark", "\u200F"}, {"softline", "\n"},      {"tab", "\t"},           {"zwj", "\u200D"},
+      {"zwnj", "\u200C"},
+  };
+  for (const auto& [word, text] : characters) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a" + std::string(text) + "b") << word;
+  }
+  for (const char* word : {"page", "par", "sect", "row", "nestrow"}) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a\nb") << word;
+  }
+  for (const char* word : {"cell", "nestcell"}) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a\tb") << word;
+  }
+}
+
+TEST(RichTextTest, EveryKindOfUnderliningUnderlines) {
+  for (const char* word :
+       {"ul", "uld", "uldash", "uldashd", "uldashdd", "uldb", "ulth", "ulw", "ulwave"}) {
+    const RichTextDocument document = ReadRichText(Doc("a\\" + std::string(word) + " b\\ulnone c"));
+    const auto& runs = document.paragraphs[0].runs;
+    ASSERT_EQ(runs.size(), 3U) << word;
+    EXPECT_FALSE(runs[0].underline);
+    EXPECT_TRUE(runs[1].underline) << word;
+    EXPECT_FALSE(runs[2].underline);
+  }
+}
+
+TEST(RichTextTest, IndentsHaveTwoNamesEach) {
+  const RichTextDocument document =
+      ReadRichText(Doc("\\li1\\ri2 a\\par\\lin3\\rin4\\qc\\ql b\\par"));
+  EXPECT_EQ(document.paragraphs[0].leftIndent, 1);
+  EXPECT_EQ(document.paragraphs[0].rightIndent, 2);
+  EXPECT_EQ(document.paragraphs[1].leftIndent, 3);
+  EXPECT_EQ(document.paragraphs[1].rightIndent, 4);
+  EXPECT_EQ(document.paragraphs[1].alignment, TextAlignment::kLeft);
 }
 
 TEST(RichTextTest, RunsHaveTheirFormats) {
