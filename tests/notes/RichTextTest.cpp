@@ -75,6 +75,10 @@ TEST(RichTextTest, UnicodeAndWhatStandsBehindIt) {
       {"negative numbers", "\\u-4064?", "\xEF\x80\xA0"},
       {"pairs", "\\u-10179?\\u-8704?", "\xF0\x9F\x98\x80"},
       {"a lone half", "\\u-10179?x", "\xEF\xBF\xBDx"},
+      {"a half before another character", "\\u-10179?\\u233?", "\xEF\xBF\xBD\xC3\xA9"},
+      {"a half before a pair", "\\u-10179?\\u-10179?\\u-8704?", "\xEF\xBF\xBD\xF0\x9F\x98\x80"},
+      {"the first and the last pair", "\\u-10240?\\u-9216?\\u-9217?\\u-8193?",
+       "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
       {"a lone second half", "\\u-8704?x", "\xEF\xBF\xBDx"},
   };
   for (const PlainCase& row : cases) EXPECT_EQ(PlainOf(row.body), row.text) << row.feature;
@@ -285,6 +289,12 @@ TEST(RichTextTest, TheTextIsBoundedWhateverTheFile) {
   std::string fonts = "{\\rtf1{\\fonttbl";
   for (int i = 0; i < 100000; ++i) fonts += "\\f" + std::to_string(i) + " F;";
   EXPECT_EQ(ReadRichText(fonts + "}\\f1 x}").PlainText(), "x");
+}
+
+TEST(RichTextTest, OfAFileItsFirst16MiBAreRead) {
+  const std::string head = "{\\rtf1 a";
+  const std::string blank(kMostBytes - head.size() - 1, '\n');
+  EXPECT_EQ(ReadRichText(head + blank + "bc}").PlainText(), "ab");
 }
 
 TEST(RichTextTest, AnyBytesAreTaken) {
