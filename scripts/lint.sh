@@ -10,6 +10,7 @@ echo "Format: clean, ${#sources[@]} files"
 
 python3 scripts/check_rooms.py
 python3 scripts/check_rules.py
+python3 scripts/mutation/find_test.py
 
 # The generated headers and the compile commands come from configuring.
 [ -f build/debug/compile_commands.json ] || cmake --preset debug >/dev/null

@@ -50,6 +50,7 @@ package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev deskt
 lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)
 fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
 coverage_packages=("${test_packages[@]}" gcovr)
+mutation_packages=("${test_packages[@]}" bubblewrap lld)
 memory_packages=("${build_packages[@]}" "${test_packages[@]}" valgrind)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
 

@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "common/ErrorState.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -41,6 +42,15 @@ TEST_F(OpenAudiowallTest, EachMissingListFileIsAskedForAndFilled) {
   EXPECT_EQ(Path("part3") + "\\Carts3.lst", PartEntry(3).FullFileName);
   const std::string blank(reinterpret_cast<const char*>(&gBlankCartRecord), kCartRecordLength);
   EXPECT_EQ(blank + blank + blank + blank + blank, folder().ReadFile("part3/Carts3.lst"));
+}
+
+TEST_F(OpenAudiowallTest, AnErrorFromBeforeIsForgotten) {
+  OpenStore(10);
+  CloseAudiowall();
+  gErrorState = {kPermissionDenied, "Permission denied"};
+  EXPECT_EQ(0, OpenAudiowall(0, false));
+  EXPECT_EQ(kNoError, gErrorState.Number);
+  EXPECT_EQ("", gErrorState.Description);
 }
 
 TEST_F(OpenAudiowallTest, CancelEndsAtOnceAndLeavesTheLaterParts) {

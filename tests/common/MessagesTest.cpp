@@ -1,5 +1,7 @@
 #include "common/Messages.h"
 
+#include <utility>
+
 #include "common/ErrorState.h"
 #include "tests/support/StationTest.h"
 
@@ -51,12 +53,26 @@ TEST_F(MessagesTest, ThePointerIsTheArrowForTheMessageAndThenAsItWas) {
 }
 
 TEST(ErrorTexts, EachNumberInUseHasItsText) {
-  for (const int32_t number :
-       {kInvalidCall, kOverflow, kSubscriptOutOfRange, kDivisionByZero, kBadFileNumber,
-        kFileNotFound, kDeviceIoError, kDiskFull, kInputPastEnd, kTooManyFiles, kPermissionDenied,
-        kPathFileAccess, kPathNotFound, kCancelled, kInvalidGridRow}) {
-    EXPECT_FALSE(ErrorText(number).empty()) << number;
-  }
+  const std::pair<int32_t, const char*> texts[] = {
+      {5, "Invalid procedure call or argument"},
+      {6, "Overflow"},
+      {7, "Out of memory"},
+      {9, "Subscript out of range"},
+      {11, "Division by zero"},
+      {52, "Bad file name or number"},
+      {53, "File not found"},
+      {57, "Device I/O error"},
+      {61, "Disk full"},
+      {62, "Input past end of file"},
+      {67, "Too many files"},
+      {70, "Permission denied"},
+      {75, "Path/File access error"},
+      {76, "Path not found"},
+      {482, "Printer error"},
+      {32755, "Cancel was selected"},
+      {30009, "Invalid row value"},
+  };
+  for (const auto& [number, text] : texts) EXPECT_EQ(text, ErrorText(number)) << number;
   EXPECT_EQ("", ErrorText(0));
   EXPECT_EQ("", ErrorText(4711));
 }

@@ -82,17 +82,13 @@ def find_and_choose(desk, config):
     desk.type(text)
     desk.keys("Return")
     desk.until(lambda: height_of(desk, search) > collapsed, "list of what was found")
-    # The first row of the list lies below the tabs, the buttons and the heading.
-    for height in range(collapsed + 8, collapsed + 48, 6):
-        desk.tool("mousemove", "--window", search, 150, height, "click", "--repeat", 2, "--delay",
-                  60, 1)
-        try:
-            desk.until(lambda: search not in desk.windows(), "choice in the search", seconds=2)
-            break
-        except AssertionError:
-            continue
-    else:
-        raise AssertionError("no double click chose a cart")
+    # The list's first row lies below its heading. What was found is marked there, and the list is empty
+    # further down.
+    row = collapsed + 9
+    desk.until(lambda: desk.colour(search, 150, row) != desk.colour(search, 150, row + 3 * ROW),
+               "found cart in the list")
+    desk.tool("mousemove", "--window", search, 150, row, "click", "--repeat", 2, "--delay", 60, 1)
+    desk.gone(search)
     desk.window(BROWSER, "browser behind the search", new=False)
     desk.keys("Return")
     ended(program, 0, f"{wanted}\n")

@@ -131,6 +131,13 @@ class Screen:
         subprocess.run(["import", "-window", "root", str(path)], env=self.environment, check=True,
                        stderr=subprocess.DEVNULL)
 
+    def colour(self, window, x, y):
+        """The red, green and blue of a pixel of a window, as bytes; none when the window has gone."""
+        done = subprocess.run(["import", "-silent", "-window", window, "-crop", f"1x1+{x}+{y}",
+                               "-depth", "8", "rgb:-"], env=self.environment, capture_output=True,
+                              check=False)
+        return done.stdout
+
     def difference(self, first, second, area):
         """How many pixels of an area (WxH+X+Y) differ in two pictures."""
         done = subprocess.run(

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace logchecker {
 namespace {
 
@@ -73,6 +75,10 @@ TEST(RichTextTest, UnicodeAndWhatStandsBehindIt) {
       {"negative numbers", "\\u-4064?", "\xEF\x80\xA0"},
       {"pairs", "\\u-10179?\\u-8704?", "\xF0\x9F\x98\x80"},
       {"a lone half", "\\u-10179?x", "\xEF\xBF\xBDx"},
+      {"a half before another character", "\\u-10179?\\u233?", "\xEF\xBF\xBD\xC3\xA9"},
+      {"a half before a pair", "\\u-10179?\\u-10179?\\u-8704?", "\xEF\xBF\xBD\xF0\x9F\x98\x80"},
+      {"the first and the last pair", "\\u-10240?\\u-9216?\\u-9217?\\u-8193?",
+       "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF"},
       {"a lone second half", "\\u-8704?x", "\xEF\xBF\xBDx"},
   };
   for (const PlainCase& row : cases) EXPECT_EQ(PlainOf(row.body), row.text) << row.feature;
@@ -95,6 +101,87 @@ TEST(RichTextTest, TablesListsFieldsAndWhatIsPassedOver) {
       {"generator", "{\\*\\generator Some program;}a", "a"},
   };
   for (const PlainCase& row : cases) EXPECT_EQ(PlainOf(row.body), row.text) << row.feature;
+}
+
+TEST(RichTextTest, EachDestinationThatIsNoTextOfTheNoteIsPassedOver) {
+  for (const char* word : {"annotation",
+                           "colorschememapping",
+                           "datastore",
+                           "do",
+                           "filetbl",
+                           "fldinst",
+                           "footer",
+                           "footerf",
+                           "footerl",
+                           "footerr",
+                           "footnote",
+                           "generator",
+                           "header",
+                           "headerf",
+                           "headerl",
+                           "headerr",
+                           "info",
+                           "latentstyles",
+                           "listoverridetable",
+                           "listtable",
+                           "nonshppict",
+                           "objclass",
+                           "objdata",
+                           "objname",
+                           "pict",
+                           "private",
+                           "revtbl",
+                           "rxe",
+                           "shppict",
+                           "sp",
+                           "stylesheet",
+                           "tc",
+                           "template",
+                           "themedata",
+                           "xe"}) {
+    EXPECT_EQ(PlainOf("a{\\" + std::string(word) + " no{\\b more}}b"), "ab") << word;
+  }
+}
+
+TEST(RichTextTest, EachWordForACharacterIsThatCharacter) {
+  const std::pair<const char*, const char*> characters[] = {
+      {"bullet", "\u2022"},  {"emdash", "\u2014"},    {"emspace", "\u2003"},   {"endash", "\u2013"},
+      {"enspace", "\u2002"}, {"ldblquote", "\u201C"}, {"line", "\n"},          {"lquote", "\u2018"},
+      {"ltrmark", "\u200E"}, {"qmspace", "\u2005"},   {"rdblquote", "\u201D"}, {"rquote", "\u2019"},
+      {"rtlmark", "\u200F"}, {"softline", "\n"},      {"tab", "\t"},           {"zwj", "\u200D"},
+      {"zwnj", "\u200C"},
+  };
+  for (const auto& [word, text] : characters) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a" + std::string(text) + "b") << word;
+  }
+  for (const char* word : {"page", "par", "sect", "row", "nestrow"}) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a\nb") << word;
+  }
+  for (const char* word : {"cell", "nestcell"}) {
+    EXPECT_EQ(PlainOf("a\\" + std::string(word) + " b"), "a\tb") << word;
+  }
+}
+
+TEST(RichTextTest, EveryKindOfUnderliningUnderlines) {
+  for (const char* word :
+       {"ul", "uld", "uldash", "uldashd", "uldashdd", "uldb", "ulth", "ulw", "ulwave"}) {
+    const RichTextDocument document = ReadRichText(Doc("a\\" + std::string(word) + " b\\ulnone c"));
+    const auto& runs = document.paragraphs[0].runs;
+    ASSERT_EQ(runs.size(), 3U) << word;
+    EXPECT_FALSE(runs[0].underline);
+    EXPECT_TRUE(runs[1].underline) << word;
+    EXPECT_FALSE(runs[2].underline);
+  }
+}
+
+TEST(RichTextTest, IndentsHaveTwoNamesEach) {
+  const RichTextDocument document =
+      ReadRichText(Doc("\\li1\\ri2 a\\par\\lin3\\rin4\\qc\\ql b\\par"));
+  EXPECT_EQ(document.paragraphs[0].leftIndent, 1);
+  EXPECT_EQ(document.paragraphs[0].rightIndent, 2);
+  EXPECT_EQ(document.paragraphs[1].leftIndent, 3);
+  EXPECT_EQ(document.paragraphs[1].rightIndent, 4);
+  EXPECT_EQ(document.paragraphs[1].alignment, TextAlignment::kLeft);
 }
 
 TEST(RichTextTest, RunsHaveTheirFormats) {
@@ -202,6 +289,12 @@ TEST(RichTextTest, TheTextIsBoundedWhateverTheFile) {
   std::string fonts = "{\\rtf1{\\fonttbl";
   for (int i = 0; i < 100000; ++i) fonts += "\\f" + std::to_string(i) + " F;";
   EXPECT_EQ(ReadRichText(fonts + "}\\f1 x}").PlainText(), "x");
+}
+
+TEST(RichTextTest, OfAFileItsFirst16MiBAreRead) {
+  const std::string head = "{\\rtf1 a";
+  const std::string blank(kMostBytes - head.size() - 1, '\n');
+  EXPECT_EQ(ReadRichText(head + blank + "bc}").PlainText(), "ab");
 }
 
 TEST(RichTextTest, AnyBytesAreTaken) {

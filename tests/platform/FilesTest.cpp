@@ -221,6 +221,22 @@ TEST_F(FilesTest, SeekCountsFromOne) {
   EXPECT_EQ(files_.Seek(number, 0), kInvalidCall);
 }
 
+TEST_F(FilesTest, SeekForgetsWhatWasReadAhead) {
+  folder_.WriteFile("file.txt", "abcdef");
+  const int16_t number = Input("file.txt");
+  std::string_view bytes;
+  EXPECT_EQ(files_.Peek(number, &bytes), kNoError);
+  files_.Skip(number, 1);
+  EXPECT_EQ(files_.Seek(number, 5), kNoError);
+  EXPECT_EQ(Position(number), 5);
+  EXPECT_EQ(Rest(number), "ef");
+  EXPECT_EQ(files_.Seek(number, 2), kNoError);
+  EXPECT_EQ(files_.Peek(number, &bytes), kNoError);
+  folder_.WriteFile("file.txt", "ABCDEF");
+  EXPECT_EQ(files_.Seek(number, 2), kNoError);
+  EXPECT_EQ(Rest(number), "BCDEF") << "the bytes as they are now";
+}
+
 TEST_F(FilesTest, AFileThatGrowsIsNoLongerAtItsEnd) {
   folder_.WriteFile("file.txt", "one");
   const int16_t number = Input("file.txt");

@@ -1,9 +1,14 @@
 #include "sample/SampleStation.h"
 
+#include <cstdio>
+#include <filesystem>
+#include <map>
+
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/GeneralSettings.h"
 #include "headless/DayCheck.h"
 #include "headless/Station.h"
+#include "platform/Platform.h"
 #include "sample/SamplePlan.h"
 #include "shell/LoadGeneralSettings.h"
 #include "splitlogs/SplitSettings.h"
@@ -13,6 +18,52 @@ namespace logchecker {
 namespace {
 
 constexpr int32_t kDay = 46347;
+
+bool Contains(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+// FNV-1a, 32 bits wide.
+std::string Checksum(const std::string& bytes) {
+  uint32_t sum = 2166136261U;
+  for (const char c : bytes) sum = (sum ^ static_cast<unsigned char>(c)) * 16777619U;
+  char text[9];
+  std::snprintf(text, sizeof text, "%08x", static_cast<unsigned>(sum));
+  return text;
+}
+
+std::string WithoutBase(std::string text, const std::string& base) {
+  for (size_t at = text.find(base); at != std::string::npos; at = text.find(base, at)) {
+    text.erase(at, base.size());
+  }
+  return text;
+}
+
+// What the settings say of where the station lies is taken out before.
+const std::map<std::string, std::string> kChecksumsOfTheStation = {
+    {"VELKLT.INI", "8cdbdcf3"},
+    {"VELMAR.INI", "46e4af37"},
+    {"audio/carts 1/Audwall.ini", "029ea3c2"},
+    {"audio/carts 1/Carts1.lst", "0f140ef1"},
+    {"audio/carts 1/VEL00007.TXT", "011b39a2"},
+    {"audio/carts 1/VEL00042.LST", "a0bc1193"},
+    {"audio/carts 2/Carts2.lst", "fdbbf65a"},
+    {"audio/carts 2/VEL01001.RTF", "ce916a46"},
+    {"audio/carts 2/VEL01002.TXT", "19d8e81c"},
+    {"audio/carts 2/VEL01003.LST", "5ba9117b"},
+    {"audio/carts 2/VEL01207.LST", "d981b937"},
+    {"audio/carts 2/VEL01207.RTF", "c90fd75a"},
+    {"audio/carts 3/Carts3.lst", "d758e5ee"},
+    {"audio/carts 3/VEL02010.LST", "f0e0d12a"},
+    {"audio/carts 3/VEL02500.RTF", "ee7c7fb6"},
+    {"audio/carts 4/Carts4.lst", "5c1e2004"},
+    {"audio/carts 4/VEL03020.LST", "e0d53044"},
+    {"audio/carts 4/VEL03901.TXT", "1f3daa58"},
+    {"logs/Coast/211126CST.LOG", "4c2f2012"},
+    {"logs/Easton and Weston/261121.LOG", "3935c2a1"},
+    {"logs/Hill Country/HIL20261121.TXT", "20e2b77d"},
+    {"logs/Larkfield/261121.LOG", "0d33f809"},
+};
 
 class SampleStationTest : public StationTest {
  protected:
@@ -66,6 +117,58 @@ TEST_F(SampleStationTest, TheLengthsOfTheMistakesAreThePlannedOnes) {
   EXPECT_NEAR(kOverTolerance, over.Lengths[1].seconds - over.Lengths[0].seconds, 0.01);
   const BreakMismatch& silent = report.mismatches[2];
   EXPECT_LT(silent.Lengths[3].seconds, silent.Lengths[0].seconds - 5);
+}
+
+TEST_F(SampleStationTest, ItsTextTellsTheDaysTheSizesAndEachMistakeWithItsTime) {
+  Write({}, 2);
+  EXPECT_EQ(
+      "Larkfield Radio, a made-up station to try Log Checker on\n"
+      "\n"
+      "Logs for 2026-11-21 to 2026-11-22: 5 splits with 60 breaks of 5 adverts a day.\n"
+      "\n"
+      "Larkfield's log has lines of the old form. Easton and Weston share one file, told apart\n"
+      "by the TX chain codes EST and WST. Coast's file names end in a suffix.\n"
+      "\n"
+      "Mistakes planted on every day:\n"
+      "  04:01  Larkfield: the break is missing.\n"
+      "  08:01  Easton: 1.5 seconds longer than in the other splits, over the tolerance.\n"
+      "  12:01  Weston: 0.3 seconds longer, within the tolerance, and not reported.\n"
+      "  16:01  Coast: the last advert's cart, 3950, has no audio, so the break is short.\n"
+      "  20:01  Hill Country: starts a minute late, at 20:02, so both times differ.\n"
+      "\n"
+      "The store has 4000 carts in four parts. Carts 1 to 60 are jingles, adverts begin at 1001, "
+      "carts 3960 to 3963 have texts and no audio, and some carts have notes.\n"
+      "Five carts have list files of their own, which are read before the part's.\n",
+      folder().ReadFile("station/SAMPLE.TXT"));
+}
+
+TEST_F(SampleStationTest, ItsTextTellsOfAStationOfGivenSizesWhatIsTrueOfIt) {
+  Write({2, 12, 3});
+  const std::string small = folder().ReadFile("station/SAMPLE.TXT");
+  EXPECT_TRUE(
+      Contains(small, "\nLogs for 2026-11-21: 2 splits with 12 breaks of 3 adverts a day.\n"));
+  EXPECT_TRUE(Contains(small, "\n  12:01  Easton: 0.3 seconds longer, "));
+  EXPECT_TRUE(Contains(small, "\n  16:01  Larkfield: the last advert's cart, 3950, "));
+  EXPECT_TRUE(Contains(small, "\n  20:01  Larkfield: starts a minute late, at 20:02, "));
+  EXPECT_TRUE(Contains(small, "\nSizes were given, so the store has part list files alone.\n"));
+  Write({2, 11, 3});
+  const std::string smallest = folder().ReadFile("station/SAMPLE.TXT");
+  EXPECT_TRUE(
+      Contains(smallest, "\nNo mistakes are planted: there is no room for them.\n\nThe store"));
+}
+
+TEST_F(SampleStationTest, TheSameSizesAndDayWriteTheSameStationByteForByte) {
+  // The documents' samples rely on it.
+  Write({});
+  const std::string base = Os().system.WindowsFolder();
+  const std::string station = folder().Path("station");
+  std::map<std::string, std::string> found;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(station)) {
+    if (!entry.is_regular_file() || entry.path().filename() == "SAMPLE.TXT") continue;
+    const std::string name = std::filesystem::relative(entry.path(), station).generic_string();
+    found[name] = Checksum(WithoutBase(folder().ReadFile("station/" + name), base));
+  }
+  EXPECT_EQ(kChecksumsOfTheStation, found);
 }
 
 TEST_F(SampleStationTest, TheStoreHasCartsOfEveryKind) {
