@@ -37,6 +37,7 @@ class FileTable : public Files {
   int32_t OpenForOutput(int16_t number, const std::string& path) override;
   int32_t OpenRandom(int16_t number, const std::string& path, int32_t recordLength) override;
   int32_t Close(int16_t number) override;
+  int32_t CloseAndKeepNumber(int16_t number) override;
   void Abandon(int16_t number) override;
   void CloseAll() override;
   int32_t Seek(int16_t number, int64_t position) override;
@@ -72,6 +73,8 @@ class FileTable : public Files {
   Slot* OpenSlot(int16_t number, HostMode mode);
   static int32_t Fill(Slot& slot);
   static int32_t Flush(Slot& slot);
+  // Writes what waits and ends the file; the slot is empty afterwards.
+  static int32_t Finish(Slot& slot);
 
   std::array<Slot, kLastFileNumber + 1> slots_;
 };

@@ -10,7 +10,8 @@ namespace logchecker {
 
 // A file number runs from 1 to kLastFileNumber. FreeFile hands a number out and keeps it for the
 // caller until Close, whether or not an open succeeds in between, so that a number that is held
-// without a file never comes to mean somebody else's file. Paths are station paths (see
+// without a file never comes to mean somebody else's file. A number that nobody holds can't be
+// opened. Paths are station paths (see
 // StationText.h). Each call returns an error number, kNoError for success.
 class Files {
  public:
@@ -34,6 +35,8 @@ class Files {
   // Closes and gives the number back. A number without an open file is no error. For an output file
   // an error means that the old file still stands.
   virtual int32_t Close(int16_t number) = 0;
+  // The same, but the number stays the caller's, for a file that is opened again under it.
+  virtual int32_t CloseAndKeepNumber(int16_t number) = 0;
   // Gives the number back; what an output file was given is dropped.
   virtual void Abandon(int16_t number) = 0;
   // Closes every open file and gives every number back.

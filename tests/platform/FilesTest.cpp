@@ -137,6 +137,42 @@ TEST_F(FilesTest, EveryNumberCanHaveAnOpenFile) {
   }
 }
 
+TEST_F(FilesTest, AFileCanBeClosedAndItsNumberKept) {
+  folder_.WriteFile("file.txt", "abc");
+  const int16_t number = Input("file.txt");
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError) << "without a file";
+  bool atEnd = false;
+  EXPECT_EQ(files_.EndOfFile(number, &atEnd), kBadFileNumber);
+  EXPECT_NE(Number(), number);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("missing")), kFileNotFound);
+  EXPECT_NE(Number(), number);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("file.txt")), kNoError);
+  EXPECT_EQ(files_.Close(number), kNoError);
+  EXPECT_EQ(Number(), number);
+}
+
+TEST_F(FilesTest, WhatWasWrittenIsThereWhenTheNumberIsKept) {
+  const int16_t number = Number();
+  ASSERT_EQ(files_.OpenForOutput(number, folder_.Path("out.txt")), kNoError);
+  EXPECT_EQ(files_.Write(number, "abc"), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError);
+  EXPECT_EQ(folder_.ReadFile("out.txt"), "abc");
+}
+
+TEST_F(FilesTest, ANumberThatNobodyHoldsCannotBeOpenedOrKept) {
+  folder_.WriteFile("file.txt", "abc");
+  const int16_t number = Input("file.txt");
+  EXPECT_EQ(files_.Close(number), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForAppend(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForOutput(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenRandom(number, folder_.Path("new.txt"), 3), kBadFileNumber);
+  EXPECT_FALSE(folder_.Exists("new.txt"));
+  EXPECT_EQ(Number(), number);
+}
+
 TEST_F(FilesTest, BadNumbers) {
   folder_.WriteFile("file.txt", "x");
   const std::string path = folder_.Path("file.txt");

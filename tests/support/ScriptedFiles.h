@@ -37,6 +37,11 @@ class ScriptedFiles : public Files {
     real_.Abandon(number);
     return error;
   }
+  int32_t CloseAndKeepNumber(int16_t number) override {
+    const int32_t error = script_.Enter("Files.Close");
+    const int32_t closing = real_.CloseAndKeepNumber(number);
+    return error != 0 ? error : closing;
+  }
   void Abandon(int16_t number) override { real_.Abandon(number); }
   void CloseAll() override { real_.CloseAll(); }
   int32_t Seek(int16_t number, int64_t position) override {

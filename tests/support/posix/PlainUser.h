@@ -1,0 +1,22 @@
+// Running a program of this build as a user without rights of his own, as stations do.
+#pragma once
+
+#include <string>
+
+#include "tests/support/RunProgram.h"
+
+namespace logchecker {
+
+// `words` as they would be typed into a shell; `folder` takes what they print.
+ProgramResult RunShellCommand(const std::string& words, const TempFolder& folder);
+
+// Runs it as RunProgram does, but for a test that root runs as somebody who owns no file: file
+// modes mean nothing to root. Whoever else runs the test is such a user already, and owns what it
+// makes.
+ProgramResult RunAsPlainUser(const std::string& name, const std::string& arguments,
+                             const TempFolder& folder);
+
+// Lets everybody read what the folder holds by now.
+void OpenToAll(const TempFolder& folder);
+
+}  // namespace logchecker
