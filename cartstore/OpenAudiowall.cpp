@@ -7,6 +7,7 @@
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/FolderHelpers.h"
+#include "common/Lookalikes.h"
 #include "common/Messages.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
@@ -142,6 +143,7 @@ int32_t OpenAudiowall(int16_t part, bool quiet) {
     AudiowallPart& entry = PartEntry(n);
     if (entry.State == kPartUnchecked) CheckDirectory(entry.Path, quiet);
     if (entry.State != kPartUsable) continue;
+    if (!quiet) TellLookalike(entry.FullFileName);
     MessageAnswer answer = MessageAnswer::kYes;
     if (GetFileLength(entry.FullFileName) < 0 && !quiet) {
       answer = AskToCreate(n, entry.FullFileName);
@@ -155,6 +157,13 @@ int32_t OpenAudiowall(int16_t part, bool quiet) {
   }
   const bool usable = part == 0 ? AnyPartUsable() : PartEntry(part).State == kPartUsable;
   return usable ? kSuccess : kFailure;
+}
+
+// A file that can't be opened anew leaves its part without one, and the reads of its carts tell.
+void ReopenReplacedParts() {
+  for (const AudiowallPart& entry : gAudiowallParts) {
+    if (entry.IsOpen) Os().files.ReopenIfReplaced(OwnFileNumber(entry), entry.FullFileName);
+  }
 }
 
 void CloseAudiowall() {

@@ -57,6 +57,19 @@ int32_t FileTable::OpenRandom(int16_t number, const std::string& path, int32_t r
   return Open(number, HostMode::kRandom, path, recordLength);
 }
 
+int32_t FileTable::ReopenIfReplaced(int16_t number, const std::string& path) {
+  Slot* slot = OpenSlot(number, HostMode::kRandom);
+  if (slot == nullptr) return kBadFileNumber;
+  bool isThis = false;
+  int32_t error = slot->file->IsAt(path, &isThis);
+  if (error != kNoError || isThis) return error;
+  std::unique_ptr<HostFile> other;
+  error = OpenHost(HostMode::kRandomExisting, path, &other);
+  // It may have gone just now.
+  if (error != kFileNotFound && error != kPathNotFound) slot->file = std::move(other);
+  return error;
+}
+
 int32_t FileTable::Finish(Slot& slot) {
   int32_t error = kNoError;
   if (slot.file) {

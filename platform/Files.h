@@ -32,6 +32,11 @@ class Files {
   // For reading and writing, or for reading alone where that is refused. Makes a missing file.
   virtual int32_t OpenRandom(int16_t number, const std::string& path, int32_t recordLength) = 0;
 
+  // Where `path` leads to another file by now than the one that is open for random access under
+  // `number`, that one is opened in its place, and a failure leaves the number without a file. A
+  // file that is missing is not made: it is an error that leaves the old one open.
+  virtual int32_t ReopenIfReplaced(int16_t number, const std::string& path) = 0;
+
   // Closes and gives the number back. A number without an open file is no error. For an output file
   // an error means that the old file still stands.
   virtual int32_t Close(int16_t number) = 0;

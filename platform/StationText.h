@@ -17,5 +17,6 @@ bool FromUtf8(std::string_view utf8, std::string* stationText);
 bool FromArgument(std::string_view argument, std::string* stationText);
 
 std::string ToUpper(std::string_view stationText);
+std::string ToLower(std::string_view stationText);
 
 }  // namespace logchecker

@@ -79,6 +79,24 @@ class WindowsFile : public HostFile {
     return kNoError;
   }
 
+  int32_t IsAt(const std::string& path, bool* isThis) override {
+    // With no rights asked, so that a file that others hold answers too, and a directory.
+    const HANDLE other = CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (other == INVALID_HANDLE_VALUE) return OpenErrorNumber(path);
+    BY_HANDLE_FILE_INFORMATION mine;
+    BY_HANDLE_FILE_INFORMATION there;
+    const bool known =
+        GetFileInformationByHandle(handle_, &mine) && GetFileInformationByHandle(other, &there);
+    const int32_t error = known ? kNoError : LastErrorNumber();
+    CloseHandle(other);
+    if (!known) return error;
+    *isThis = mine.dwVolumeSerialNumber == there.dwVolumeSerialNumber &&
+              mine.nFileIndexHigh == there.nFileIndexHigh &&
+              mine.nFileIndexLow == there.nFileIndexLow;
+    return kNoError;
+  }
+
   int32_t Commit() override { return CloseNow() ? kNoError : LastErrorNumber(); }
 
  protected:
@@ -186,7 +204,9 @@ int32_t OpenWindowsFile(HostMode mode, const std::string& path, std::unique_ptr<
     case HostMode::kReplace:
       return OpenReplacement(path, file);
     case HostMode::kRandom:
-      handle = Open(path, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
+    case HostMode::kRandomExisting:
+      handle = Open(path, GENERIC_READ | GENERIC_WRITE,
+                    mode == HostMode::kRandom ? OPEN_ALWAYS : OPEN_EXISTING);
       if (handle == INVALID_HANDLE_VALUE && LastErrorNumber() == kPermissionDenied)
         handle = Open(path, GENERIC_READ, OPEN_EXISTING);
       break;

@@ -173,6 +173,46 @@ TEST_F(FilesTest, ANumberThatNobodyHoldsCannotBeOpenedOrKept) {
   EXPECT_EQ(Number(), number);
 }
 
+// A file of 3 bytes in another one's place; the other goes to "away".
+TEST_F(FilesTest, AReplacedFileIsOpenedInItsPlaceUnderTheSameNumber) {
+  folder_.WriteFile("list", "old");
+  folder_.WriteFile("new", "new");
+  const std::string path = folder_.Path("list");
+  const int16_t number = Random("list", 3);
+  std::string record = "---";
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kNoError) << "the same";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "old");
+  std::filesystem::rename(path, folder_.Path("away"));
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kFileNotFound);
+  EXPECT_FALSE(folder_.Exists("list")) << "it is not made";
+  record = "---";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "old");
+  std::filesystem::rename(folder_.Path("new"), path);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kNoError);
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "new");
+  EXPECT_EQ(files_.PutRecord(number, 2, "abc"), kNoError);
+  EXPECT_EQ(folder_.ReadFile("list"), "newabc");
+  EXPECT_EQ(folder_.ReadFile("away"), "old");
+}
+
+TEST_F(FilesTest, AReplacementThatCannotBeOpenedLeavesTheNumberWithoutAFile) {
+  folder_.WriteFile("list", "old");
+  const std::string path = folder_.Path("list");
+  const int16_t number = Random("list", 3);
+  std::filesystem::rename(path, folder_.Path("away"));
+  std::filesystem::create_directory(path);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kPathFileAccess);
+  std::string record = "---";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kBadFileNumber);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kBadFileNumber);
+  EXPECT_NE(Number(), number) << "it is still held";
+  EXPECT_EQ(files_.ReopenIfReplaced(Output("out"), path), kBadFileNumber);
+  EXPECT_EQ(files_.ReopenIfReplaced(0, path), kBadFileNumber);
+}
+
 TEST_F(FilesTest, BadNumbers) {
   folder_.WriteFile("file.txt", "x");
   const std::string path = folder_.Path("file.txt");

@@ -30,6 +30,10 @@ class ScriptedFiles : public Files {
     const int32_t error = script_.Enter("Files.OpenRandom");
     return error != 0 ? error : real_.OpenRandom(number, path, recordLength);
   }
+  int32_t ReopenIfReplaced(int16_t number, const std::string& path) override {
+    const int32_t error = script_.Enter("Files.ReopenIfReplaced");
+    return error != 0 ? error : real_.ReopenIfReplaced(number, path);
+  }
   // A close that fails has let go of the number all the same, and of what was written.
   int32_t Close(int16_t number) override {
     const int32_t error = script_.Enter("Files.Close");
@@ -120,6 +124,9 @@ class ScriptedDirectories : public Directories {
     return error != 0 ? error : real_.CurrentDirectory(path);
   }
   int32_t RootLength(const std::string& path) override { return real_.RootLength(path); }
+  bool FindLookalike(const std::string& path, Lookalike* lookalike) override {
+    return real_.FindLookalike(path, lookalike);
+  }
 
  private:
   Directories& real_;

@@ -1,5 +1,6 @@
 // The check as a user who may not read, list or write everything that the station has.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <filesystem>
@@ -58,6 +59,56 @@ TEST_F(PlainUserTest, AListFileThatMayNotBeReadLeavesTheOthersAndTheLogsAlone) {
   EXPECT_TRUE(Holds(cart.output, "\n1001\t52\t")) << cart.output;
   EXPECT_EQ(before, (SetMode("/audio/carts 2/Carts2.lst", perms::owner_read | perms::others_read),
                      Check("--format csv").output));
+}
+
+TEST_F(PlainUserTest, AListFileThatCannotBeReadIsAWarningThatSaysWhy) {
+  SetMode("/audio/carts 2/Carts2.lst", perms::none);
+  const std::string list = station_ + "/audio/carts 3/Carts3.lst";
+  std::filesystem::remove(list);
+  ASSERT_EQ(0, mkfifo(list.c_str(), 0666));
+  std::filesystem::remove(station_ + "/audio/carts 4/Carts4.lst");
+  std::filesystem::create_directory(station_ + "/audio/carts 4/Carts4.lst");
+  const ProgramResult result = Check("--create-missing");
+  EXPECT_EQ(1, result.exitCode);
+  EXPECT_EQ(3U, Lines(result.errors)) << result.errors;
+  for (const char* words :
+       {"warning: part 2 of the cart store can't be read: ", "Carts2.lst: Permission denied\n",
+        "warning: part 3 of the cart store can't be read: ", "Carts3.lst: Device I/O error\n",
+        "warning: part 4 of the cart store can't be read: ",
+        "Carts4.lst: Path/File access error\n"}) {
+    EXPECT_TRUE(Holds(result.errors, words)) << words << result.errors;
+  }
+}
+
+TEST_F(PlainUserTest, AFolderThatCouldBeTwoIsOneWarning) {
+  std::filesystem::create_directory(station_ + "/audio/Carts 2");
+  std::filesystem::copy_file(station_ + "/audio/carts 2/Carts2.lst",
+                             station_ + "/audio/Carts 2/Carts2.lst");
+  std::string family = folder_.ReadFile("station/VELMAR.INI");
+  const size_t place = family.find("carts 2");
+  ASSERT_NE(std::string::npos, place);
+  family.replace(place, 7, "CARTS 2");
+  folder_.WriteFile("station/VELMAR.INI", family);
+  const ProgramResult result = Check();
+  EXPECT_EQ(1, result.exitCode);
+  EXPECT_EQ(1U, Lines(result.errors)) << result.errors;
+  EXPECT_TRUE(Holds(result.errors,
+                    "audio/Carts 2\" is used, and \"" + station_ + "/audio/carts 2\" is not."))
+      << result.errors;
+}
+
+TEST_F(PlainUserTest, ALogFolderThatCouldBeTwoIsAWarningOfShowToo) {
+  std::filesystem::create_directory(station_ + "/logs/LARKFIELD");
+  std::filesystem::rename(station_ + "/logs/LARKFIELD", station_ + "/logs/larkfielD");
+  std::string settings = folder_.ReadFile("station/VELKLT.INI");
+  const size_t place = settings.find("logs\\Larkfield");
+  ASSERT_NE(std::string::npos, place);
+  settings.replace(place, 14, "logs\\LARKFIELD");
+  folder_.WriteFile("station/VELKLT.INI", settings);
+  const ProgramResult result = Run("show --split 1 --date 2026-11-21");
+  EXPECT_EQ(0, result.exitCode);
+  EXPECT_EQ(1U, Lines(result.errors)) << result.errors;
+  EXPECT_TRUE(Holds(result.errors, "logs/Larkfield\" is used")) << result.errors;
 }
 
 }  // namespace

@@ -2,11 +2,18 @@
 
 #include <unistd.h>
 
+#include <cstdlib>
 #include <filesystem>
 
 #include "platform/Platform.h"
 
 namespace logchecker {
+
+namespace {
+
+constexpr uid_t kPlainUser = 12345;
+
+}  // namespace
 
 ProgramResult RunAsPlainUser(const std::string& name, const std::string& arguments,
                              const TempFolder& folder) {
@@ -14,6 +21,14 @@ ProgramResult RunAsPlainUser(const std::string& name, const std::string& argumen
   return RunShellCommand("setpriv --reuid=12345 --regid=12345 --clear-groups '" +
                              RealPlatform().system.ProgramFolder() + "/" + name + "' " + arguments,
                          folder);
+}
+
+WithoutRights::WithoutRights() : isRoot_(geteuid() == 0) {
+  if (isRoot_ && (setegid(kPlainUser) != 0 || seteuid(kPlainUser) != 0)) std::abort();
+}
+
+WithoutRights::~WithoutRights() {
+  if (isRoot_ && (seteuid(0) != 0 || setegid(0) != 0)) std::abort();
 }
 
 void OpenToAll(const TempFolder& folder) {

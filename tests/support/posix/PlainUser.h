@@ -16,6 +16,18 @@ ProgramResult RunShellCommand(const std::string& words, const TempFolder& folder
 ProgramResult RunAsPlainUser(const std::string& name, const std::string& arguments,
                              const TempFolder& folder);
 
+// For as long as it lives, root's test has the rights of such a user itself.
+class WithoutRights {
+ public:
+  WithoutRights();
+  ~WithoutRights();
+  WithoutRights(const WithoutRights&) = delete;
+  WithoutRights& operator=(const WithoutRights&) = delete;
+
+ private:
+  bool isRoot_;
+};
+
 // Lets everybody read what the folder holds by now.
 void OpenToAll(const TempFolder& folder);
 
