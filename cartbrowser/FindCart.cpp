@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cartbrowser/KeyCodes.h"
+#include "cartstore/OpenAudiowall.h"
 #include "common/TextHelpers.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"
@@ -61,6 +62,7 @@ void FindCart::Activate() {
 void FindCart::Find() {
   if (!view_.FindEnabled) return;
   PrepareSearch();
+  ReopenReplacedParts();
   const int32_t first = FirstCartOfWalk(StartCart, input.Direction, input.SearchFromStart);
   CartWalk walk(CartSearch(Rules()), first, input.Direction);
   // A window that was closed and shown again on the way is not this walk's any more.

@@ -20,6 +20,9 @@ struct AudiowallPart {
   bool IsOpen = false;
   int32_t State = kPartUnchecked;
   int32_t FileNumber = 0;  // of the open list file; below 1 while none was ever opened
+  // Whether FileNumber is this part's own, as it is from an opening to CloseAudiowall. Behind that
+  // the number stays here and may be another file's.
+  bool HoldsNumber = false;
 };
 
 // Index is the part number less 1. Lives for the whole run.
@@ -34,6 +37,10 @@ int16_t GetCartPart(int32_t cartNumber);
 
 // How many parts are in use: the part of the last cart.
 int16_t PartsInUse();
+
+// What the part's list file is read under: its number while that is its own, else 0, which no file
+// has.
+int16_t OwnFileNumber(const AudiowallPart& entry);
 
 // The entry of a part, from 1 to 11.
 AudiowallPart& PartEntry(int16_t part);

@@ -63,8 +63,7 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
   }
   if (!read) {
     const int32_t recordNumber = cartNumber - (part - 1) * kCartsOfAPart;
-    const int32_t error =
-        Os().files.GetRecord(static_cast<int16_t>(entry.FileNumber), recordNumber, &record);
+    const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
     if (!Succeeded(error)) {
       entry.State = kPartUnusable;
       return Blank(info, error);

@@ -7,6 +7,7 @@
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/FolderHelpers.h"
+#include "common/Lookalikes.h"
 #include "common/Messages.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
@@ -20,7 +21,23 @@ namespace {
 constexpr int32_t kSuccess = 0;
 constexpr int32_t kFailure = -1;
 
-// Names the list files of the parts and counts the parts that have no location.
+// The part keeps its number, so that no log and no other part ever gets it while this one's file
+// can't be opened.
+void CloseListFile(AudiowallPart& entry) {
+  if (entry.HoldsNumber) Succeeded(Os().files.CloseAndKeepNumber(OwnFileNumber(entry)));
+  entry.IsOpen = false;
+}
+
+// The number that a part had before CloseAudiowall may be another file's by now, so that it takes a
+// free one again.
+void TakeFileNumber(AudiowallPart& entry) {
+  int16_t number = 0;
+  entry.HoldsNumber = Succeeded(Os().files.FreeFile(&number));
+  entry.FileNumber = number;
+}
+
+// Names the list files of the parts and counts the parts that have no location. A file that is open
+// from another location is no longer the part's.
 int32_t PrepareParts(int16_t first, int16_t last) {
   int32_t withoutLocation = 0;
   for (int16_t part = first; part <= last; ++part) {
@@ -29,7 +46,9 @@ int32_t PrepareParts(int16_t first, int16_t last) {
       ++withoutLocation;
     } else {
       if (entry.FileName.empty()) entry.FileName = "Carts" + std::to_string(part) + ".lst";
-      entry.FullFileName = entry.Path + "\\" + entry.FileName;
+      const std::string file = entry.Path + "\\" + entry.FileName;
+      if (file != entry.FullFileName) CloseListFile(entry);
+      entry.FullFileName = file;
     }
     entry.State = kPartUnchecked;
   }
@@ -70,14 +89,12 @@ int32_t CapacityOf(int16_t part) {
 // read fails.
 void OpenListFile(AudiowallPart& entry, int16_t part) {
   Files& files = Os().files;
-  auto number = static_cast<int16_t>(entry.FileNumber);
-  if (number < 1) {
-    Succeeded(files.FreeFile(&number));
-    entry.FileNumber = number;
+  if (entry.HoldsNumber) {
+    CloseListFile(entry);
   } else {
-    Succeeded(files.Close(number));
-    entry.IsOpen = false;
+    TakeFileNumber(entry);
   }
+  const int16_t number = OwnFileNumber(entry);
   constexpr auto kLength = static_cast<int32_t>(kCartRecordLength);
   const bool opened = Succeeded(files.OpenRandom(number, entry.FullFileName, kLength));
   entry.State = kPartUsable;
@@ -94,7 +111,7 @@ void OpenListFile(AudiowallPart& entry, int16_t part) {
   while (record <= capacity && Succeeded(files.PutRecord(number, record, &gBlankCartRecord))) {
     ++record;
   }
-  Succeeded(files.Close(number));
+  Succeeded(files.CloseAndKeepNumber(number));
   Succeeded(files.OpenRandom(number, entry.FullFileName, kLength));
 }
 
@@ -126,20 +143,33 @@ int32_t OpenAudiowall(int16_t part, bool quiet) {
     AudiowallPart& entry = PartEntry(n);
     if (entry.State == kPartUnchecked) CheckDirectory(entry.Path, quiet);
     if (entry.State != kPartUsable) continue;
+    if (!quiet) TellLookalike(entry.FullFileName);
     MessageAnswer answer = MessageAnswer::kYes;
     if (GetFileLength(entry.FullFileName) < 0 && !quiet) {
       answer = AskToCreate(n, entry.FullFileName);
       if (answer == MessageAnswer::kCancel) return kFailure;
     }
-    if (answer == MessageAnswer::kYes) OpenListFile(entry, n);
+    if (answer == MessageAnswer::kYes) {
+      OpenListFile(entry, n);
+    } else {
+      CloseListFile(entry);
+    }
   }
   const bool usable = part == 0 ? AnyPartUsable() : PartEntry(part).State == kPartUsable;
   return usable ? kSuccess : kFailure;
 }
 
+// A file that can't be opened anew leaves its part without one, and the reads of its carts tell.
+void ReopenReplacedParts() {
+  for (const AudiowallPart& entry : gAudiowallParts) {
+    if (entry.IsOpen) Os().files.ReopenIfReplaced(OwnFileNumber(entry), entry.FullFileName);
+  }
+}
+
 void CloseAudiowall() {
   for (AudiowallPart& entry : gAudiowallParts) {
-    if (entry.FileNumber > 0) Os().files.Close(static_cast<int16_t>(entry.FileNumber));
+    if (entry.HoldsNumber) Os().files.Close(OwnFileNumber(entry));
+    entry.HoldsNumber = false;
     entry.FileName.clear();
     entry.IsOpen = false;
     entry.State = kPartUnchecked;

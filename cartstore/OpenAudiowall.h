@@ -12,6 +12,11 @@ namespace logchecker {
 // opening that the next read then does makes the file.
 int32_t OpenAudiowall(int16_t part, bool quiet);
 
+// Opens anew, under its own number, each list file whose place another one has taken since it was
+// opened, as a restore does: the open one would go on showing the carts that were. Asks nothing and
+// makes nothing; a file that is missing just then stays in use as it was.
+void ReopenReplacedParts();
+
 // Closes every part's list file. The locations stay.
 void CloseAudiowall();
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "cartstore/LoadCartInfo.h"
+#include "cartstore/OpenAudiowall.h"
 #include "common/GeneralSettings.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
@@ -197,6 +198,7 @@ void BreakCheck::AddRow(float time, const BreaksAtATime& breaks) {
 
 void BreakCheck::CheckBreaks() {
   RequireSplitsInRange();
+  ReopenReplacedParts();
   cmdPrintEnabled = false;
   cmdSaveEnabled = false;
   lvwResults.ListItems.clear();

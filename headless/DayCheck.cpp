@@ -1,5 +1,6 @@
 #include "headless/DayCheck.h"
 
+#include "cartstore/OpenAudiowall.h"
 #include "common/DatePicture.h"
 #include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
@@ -81,6 +82,7 @@ DayReport CheckDay(int32_t day) {
   report.day = day;
   report.toleranceMS = gGeneralSettings.BreakDifferenceMS;
   CloseLogFiles();
+  ReopenReplacedParts();
   try {
     for (int16_t n = 1; n <= gGeneralSettings.NumberActiveSplits; ++n) {
       report.splits.push_back(LoadSplit(n, day));

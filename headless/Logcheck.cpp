@@ -42,6 +42,10 @@ std::string Report(const Options& options, const std::vector<DayReport>& days) {
   }
 }
 
+void WriteWarnings(TerminalUi& ui) {
+  for (const std::string& message : ui.TakeMessages()) WriteErrorLine("warning: " + message);
+}
+
 int Check(const Options& options) {
   TerminalUi ui(options.createMissing);
   ReadStationSettings(options);
@@ -52,7 +56,7 @@ int Check(const Options& options) {
   bool anyChecked = false;
   for (int32_t day = FirstDay(options); days.size() < static_cast<size_t>(options.days); ++day) {
     days.push_back(CheckDay(day));
-    for (const std::string& message : ui.TakeMessages()) WriteErrorLine("warning: " + message);
+    WriteWarnings(ui);
     const DayReport& report = days.back();
     if (!report.trouble.empty()) {
       WriteErrorLine(report.trouble);
@@ -77,6 +81,7 @@ int Show(const Options& options) {
   SplitSettings& settings = SettingsOf(options.split);
   settings.LogDate = FirstDay(options);
   gSplits(options.split).LoadLogFile();
+  WriteWarnings(ui);
   if (settings.LogFileNumber == 0) {
     throw Trouble("no log for split " + std::to_string(options.split) + " \"" + settings.SplitName +
                   "\": " + GetLogSourcePath(options.split, settings.LogDate, false));

@@ -2,6 +2,7 @@
 
 #include "cartstore/AudioSettings.h"
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
 #include "common/UnreadableSettings.h"
@@ -13,14 +14,16 @@ namespace logchecker {
 
 namespace {
 
-bool CanBeRead(const std::string& path) {
+// Why the file can't be read, as an error number.
+int32_t ReadingError(const std::string& path) {
   Files& files = Os().files;
   int16_t file = 0;
-  bool readable = files.FreeFile(&file) == kNoError && files.OpenForInput(file, path) == kNoError;
+  int32_t error = files.FreeFile(&file);
+  if (error == kNoError) error = files.OpenForInput(file, path);
   bool atEnd = false;
-  readable = readable && files.EndOfFile(file, &atEnd) == kNoError;
+  if (error == kNoError) error = files.EndOfFile(file, &atEnd);
   files.Close(file);
-  return readable;
+  return error;
 }
 
 void RequireReadable(const std::string& file) {
@@ -33,7 +36,23 @@ void RequireSettings() {
   const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
   if (!(GetFileLength(file) > 0))
     throw Trouble("there are no settings: " + file + " is missing or empty");
-  if (!CanBeRead(file)) throw Trouble("the settings can't be read: " + file);
+  if (ReadingError(file) != kNoError) throw Trouble("the settings can't be read: " + file);
+}
+
+// The opening takes a list file that can't be read as it is, and its carts would pass for carts
+// without audio.
+void WarnOfUnreadableParts() {
+  for (int16_t part = 1; part <= PartsInUse(); ++part) {
+    const AudiowallPart& entry = PartEntry(part);
+    if (entry.State != kPartUsable) continue;
+    CartRecord record{};
+    int32_t error = Os().files.GetRecord(OwnFileNumber(entry), 1, &record);
+    if (error == kNoError) continue;
+    // Without an open file that number says nothing.
+    if (error == kBadFileNumber) error = ReadingError(entry.FullFileName);
+    WriteErrorLine("warning: part " + std::to_string(part) + " of the cart store can't be read: " +
+                   entry.FullFileName + ": " + ErrorText(error));
+  }
 }
 
 std::string Joined(const std::vector<std::string>& texts) {
@@ -68,6 +87,7 @@ void OpenStore(TerminalUi& ui) {
                   " can't be opened: " + reason);
   }
   for (const std::string& message : messages) WriteErrorLine("warning: " + message);
+  WarnOfUnreadableParts();
 }
 
 void CloseStation() {

@@ -6,6 +6,12 @@
 
 namespace logchecker {
 
+// Two entries of a directory whose names differ only in letter case, for a name that is neither's.
+struct Lookalike {
+  std::string taken;  // station path of the one that the name stands for: the first in byte order
+  std::string other;  // and of the next
+};
+
 // Paths are station paths. Each call returns an error number, kNoError for success.
 class Directories {
  public:
@@ -27,6 +33,9 @@ class Directories {
   // How many characters at the beginning of `path` name its root: 3 for "C:\", 1 for "/" where the
   // system's paths have no drive, 0 where there is none.
   virtual int32_t RootLength(const std::string& path) = 0;
+  // Whether a part of `path` could stand for several entries. False where the system itself takes
+  // no two names that differ only in letter case.
+  virtual bool FindLookalike(const std::string& path, Lookalike* lookalike) = 0;
 };
 
 }  // namespace logchecker

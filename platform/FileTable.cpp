@@ -27,11 +27,10 @@ int32_t FileTable::Open(int16_t number, HostMode mode, const std::string& path,
                         int32_t recordLength) {
   if (number < 1 || number > kLastFileNumber) return kBadFileNumber;
   Slot& slot = slots_[number];
-  if (slot.file) return kBadFileNumber;
+  if (!slot.held || slot.file) return kBadFileNumber;
   std::unique_ptr<HostFile> file;
   const int32_t error = OpenHost(mode, path, &file);
   if (error != kNoError) return error;
-  slot.held = true;
   slot.mode = mode;
   slot.file = std::move(file);
   slot.recordLength = recordLength;
@@ -58,9 +57,20 @@ int32_t FileTable::OpenRandom(int16_t number, const std::string& path, int32_t r
   return Open(number, HostMode::kRandom, path, recordLength);
 }
 
-int32_t FileTable::Close(int16_t number) {
-  if (number < 1 || number > kLastFileNumber) return kBadFileNumber;
-  Slot& slot = slots_[number];
+int32_t FileTable::ReopenIfReplaced(int16_t number, const std::string& path) {
+  Slot* slot = OpenSlot(number, HostMode::kRandom);
+  if (slot == nullptr) return kBadFileNumber;
+  bool isThis = false;
+  int32_t error = slot->file->IsAt(path, &isThis);
+  if (error != kNoError || isThis) return error;
+  std::unique_ptr<HostFile> other;
+  error = OpenHost(HostMode::kRandomExisting, path, &other);
+  // It may have gone just now.
+  if (error != kFileNotFound && error != kPathNotFound) slot->file = std::move(other);
+  return error;
+}
+
+int32_t FileTable::Finish(Slot& slot) {
   int32_t error = kNoError;
   if (slot.file) {
     if (slot.mode == HostMode::kAppend || slot.mode == HostMode::kReplace) error = Flush(slot);
@@ -68,6 +78,18 @@ int32_t FileTable::Close(int16_t number) {
     if (error == kNoError) error = slot.file->Commit();
   }
   slot = Slot();
+  return error;
+}
+
+int32_t FileTable::Close(int16_t number) {
+  if (number < 1 || number > kLastFileNumber) return kBadFileNumber;
+  return Finish(slots_[number]);
+}
+
+int32_t FileTable::CloseAndKeepNumber(int16_t number) {
+  if (number < 1 || number > kLastFileNumber || !slots_[number].held) return kBadFileNumber;
+  const int32_t error = Finish(slots_[number]);
+  slots_[number].held = true;
   return error;
 }
 

@@ -11,7 +11,8 @@
 
 namespace logchecker {
 
-enum class HostMode { kInput, kAppend, kReplace, kRandom };
+// kRandom makes a missing file, kRandomExisting does not.
+enum class HostMode { kInput, kAppend, kReplace, kRandom, kRandomExisting };
 
 // One open file of the system. Closing it without Commit drops a replacement. Each call returns an
 // error number.
@@ -25,6 +26,8 @@ class HostFile {
   // Adds behind what is there. For kAppend and kReplace.
   virtual int32_t Append(const void* data, size_t size) = 0;
   virtual int32_t Length(int64_t* length) = 0;
+  // Whether a path leads to this very file.
+  virtual int32_t IsAt(const std::string& path, bool* isThis) = 0;
   // Ends the file: a replacement takes the place of the old file.
   virtual int32_t Commit() = 0;
 };
@@ -36,7 +39,9 @@ class FileTable : public Files {
   int32_t OpenForAppend(int16_t number, const std::string& path) override;
   int32_t OpenForOutput(int16_t number, const std::string& path) override;
   int32_t OpenRandom(int16_t number, const std::string& path, int32_t recordLength) override;
+  int32_t ReopenIfReplaced(int16_t number, const std::string& path) override;
   int32_t Close(int16_t number) override;
+  int32_t CloseAndKeepNumber(int16_t number) override;
   void Abandon(int16_t number) override;
   void CloseAll() override;
   int32_t Seek(int16_t number, int64_t position) override;
@@ -72,6 +77,8 @@ class FileTable : public Files {
   Slot* OpenSlot(int16_t number, HostMode mode);
   static int32_t Fill(Slot& slot);
   static int32_t Flush(Slot& slot);
+  // Writes what waits and ends the file; the slot is empty afterwards.
+  static int32_t Finish(Slot& slot);
 
   std::array<Slot, kLastFileNumber + 1> slots_;
 };

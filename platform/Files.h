@@ -10,7 +10,8 @@ namespace logchecker {
 
 // A file number runs from 1 to kLastFileNumber. FreeFile hands a number out and keeps it for the
 // caller until Close, whether or not an open succeeds in between, so that a number that is held
-// without a file never comes to mean somebody else's file. Paths are station paths (see
+// without a file never comes to mean somebody else's file. A number that nobody holds can't be
+// opened. Paths are station paths (see
 // StationText.h). Each call returns an error number, kNoError for success.
 class Files {
  public:
@@ -31,9 +32,16 @@ class Files {
   // For reading and writing, or for reading alone where that is refused. Makes a missing file.
   virtual int32_t OpenRandom(int16_t number, const std::string& path, int32_t recordLength) = 0;
 
+  // Where `path` leads to another file by now than the one that is open for random access under
+  // `number`, that one is opened in its place, and a failure leaves the number without a file. A
+  // file that is missing is not made: it is an error that leaves the old one open.
+  virtual int32_t ReopenIfReplaced(int16_t number, const std::string& path) = 0;
+
   // Closes and gives the number back. A number without an open file is no error. For an output file
   // an error means that the old file still stands.
   virtual int32_t Close(int16_t number) = 0;
+  // The same, but the number stays the caller's, for a file that is opened again under it.
+  virtual int32_t CloseAndKeepNumber(int16_t number) = 0;
   // Gives the number back; what an output file was given is dropped.
   virtual void Abandon(int16_t number) = 0;
   // Closes every open file and gives every number back.

@@ -21,5 +21,6 @@ bool FromArgument(std::string_view argument, std::string* stationText);
 std::string WithoutControls(std::string_view stationText);
 
 std::string ToUpper(std::string_view stationText);
+std::string ToLower(std::string_view stationText);
 
 }  // namespace logchecker

@@ -1,5 +1,6 @@
 #include "shell/LoadLogs.h"
 
+#include "cartstore/OpenAudiowall.h"
 #include "common/DatePicture.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
@@ -12,6 +13,7 @@ int32_t CurrentLogDate = 0;
 
 void LoadLogs(int32_t date) {
   CurrentLogDate = date;
+  ReopenReplacedParts();
   for (int16_t n = 1; n <= kMostSplits; ++n) {
     SettingsOf(n).LogDate = date;
     gSplits(n).LoadLogFile();

@@ -7,6 +7,7 @@
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
+#include "common/Lookalikes.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/TimeText.h"
@@ -133,6 +134,7 @@ void SplitLog::CaptionChanged() {}
 void SplitLog::LoadLogFile() {
   const SplitSettings& settings = SettingsOf(splitNumber_);
   const std::string path = GetLogSourcePath(splitNumber_, settings.LogDate, false);
+  TellLookalike(path);
   OpenLogFile(splitNumber_, path);
   gridLog.SetRows(1);
   if (settings.LogFileNumber == 0) return;

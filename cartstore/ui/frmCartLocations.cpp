@@ -8,6 +8,7 @@
 #include "cartstore/AudiowallParts.h"
 #include "cartstore/OpenAudiowall.h"
 #include "common/FolderHelpers.h"
+#include "common/Lookalikes.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
@@ -98,6 +99,8 @@ void frmCartLocations::OnDone() {
     DropLastBackslash(path);
     Os().profiles.WriteString("FileLocations", "Carts" + std::to_string(part), path, SettingsFile);
   }
+  ForgetToldLookalikes();
+  for (const AudiowallPart& entry : gAudiowallParts) TellLookalike(entry.Path);
   OpenAudiowall(0, false);
   accept();
   Ui().SetMousePointer(MousePointer::kDefault);

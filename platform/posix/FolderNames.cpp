@@ -3,9 +3,11 @@
 #include <dirent.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <ctime>
 #include <map>
 #include <unordered_map>
+#include <utility>
 
 #include "platform/StationText.h"
 
@@ -34,7 +36,10 @@ struct Stamp {
 struct Folder {
   Stamp stamp;
   bool settled = false;  // the stamp was old enough when the names were read
+  bool listed = false;
   std::unordered_map<std::string, std::string> names;
+  // Of the names that fold to the same: the next in byte order.
+  std::unordered_map<std::string, std::string> others;
 };
 
 bool ReadStamp(const std::string& folder, Stamp* stamp) {
@@ -52,21 +57,44 @@ std::string Fold(const std::string& utf8) {
   return ToUpper(text);
 }
 
+void AddName(std::string name, Folder* folder) {
+  const std::string folded = Fold(name);
+  auto [first, isNew] = folder->names.emplace(folded, name);
+  if (isNew) return;
+  if (name < first->second) std::swap(name, first->second);
+  auto [next, isNewNext] = folder->others.emplace(folded, name);
+  if (!isNewNext && name < next->second) next->second = name;
+}
+
 void ReadNames(const std::string& path, Folder* folder) {
   folder->names.clear();
+  folder->others.clear();
+  folder->listed = false;
   DIR* directory = opendir(path.c_str());
   if (directory == nullptr) return;
-  while (const dirent* entry = readdir(directory)) {
-    const std::string name = entry->d_name;
-    auto [place, isNew] = folder->names.emplace(Fold(name), name);
-    if (!isNew && name < place->second) place->second = name;
-  }
+  const auto next = [directory] {
+    errno = 0;
+    return readdir(directory);
+  };
+  while (const dirent* entry = next()) AddName(entry->d_name, folder);
+  folder->listed = errno == 0;
   closedir(directory);
+}
+
+bool FindLowerName(const std::string& folder, const std::string& name, std::string* found) {
+  std::string text;
+  FromUtf8(name, &text);
+  const std::string lower = ToUtf8(ToLower(text));
+  struct stat facts {};
+  if (lstat((folder + "/" + lower).c_str(), &facts) != 0) return false;
+  *found = lower;
+  return true;
 }
 
 }  // namespace
 
-bool FindFoldedName(const std::string& hostFolder, const std::string& name, std::string* found) {
+bool FindFoldedName(const std::string& hostFolder, const std::string& name, std::string* found,
+                    std::string* other) {
   static std::map<std::string, Folder> known;
   Stamp stamp;
   if (!ReadStamp(hostFolder, &stamp)) return false;
@@ -74,13 +102,19 @@ bool FindFoldedName(const std::string& hostFolder, const std::string& name, std:
   Folder& folder = known[hostFolder];
   if (!folder.settled || !(folder.stamp == stamp)) {
     folder.stamp = stamp;
-    folder.settled = stamp.modified.tv_sec + kStampSeconds < std::time(nullptr) &&
-                     stamp.changed.tv_sec + kStampSeconds < std::time(nullptr);
     ReadNames(hostFolder, &folder);
+    // A listing that failed is tried anew each time.
+    folder.settled = folder.listed && stamp.modified.tv_sec + kStampSeconds < std::time(nullptr) &&
+                     stamp.changed.tv_sec + kStampSeconds < std::time(nullptr);
   }
-  const auto place = folder.names.find(Fold(name));
-  if (place == folder.names.end()) return false;
+  const std::string folded = Fold(name);
+  const auto place = folder.names.find(folded);
+  if (place == folder.names.end()) {
+    return !folder.listed && FindLowerName(hostFolder, name, found);
+  }
   *found = place->second;
+  const auto next = folder.others.find(folded);
+  if (next != folder.others.end()) *other = next->second;
   return true;
 }
 

@@ -8,6 +8,7 @@
 #include <climits>
 
 #include "platform/ErrorNumbers.h"
+#include "platform/HostPaths.h"
 #include "platform/StationText.h"
 #include "platform/posix/PosixErrors.h"
 #include "platform/posix/StationPath.h"
@@ -75,6 +76,15 @@ int32_t PosixDirectories::CurrentDirectory(std::string* path) {
 int32_t PosixDirectories::RootLength(const std::string& path) {
   if (HasDrive(path)) return path.size() > 2 && IsSeparator(path[2]) ? 3 : 2;
   return !path.empty() && IsSeparator(path[0]) ? 1 : 0;
+}
+
+bool PosixDirectories::FindLookalike(const std::string& path, Lookalike* lookalike) {
+  HostLookalike found;
+  HostPath(path, &found);
+  if (found.other.empty()) return false;
+  FromUtf8(FromHostPath(found.taken), &lookalike->taken);
+  FromUtf8(FromHostPath(found.other), &lookalike->other);
+  return true;
 }
 
 }  // namespace logchecker

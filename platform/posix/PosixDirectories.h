@@ -15,6 +15,7 @@ class PosixDirectories : public Directories {
   int32_t ChangeDirectory(const std::string& path) override;
   int32_t CurrentDirectory(std::string* path) override;
   int32_t RootLength(const std::string& path) override;
+  bool FindLookalike(const std::string& path, Lookalike* lookalike) override;
 };
 
 }  // namespace logchecker

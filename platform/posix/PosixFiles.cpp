@@ -71,6 +71,16 @@ class OpenFile : public HostFile {
     return kNoError;
   }
 
+  int32_t IsAt(const std::string& path, bool* isThis) override {
+    const std::string hostPath = HostPath(path);
+    struct stat mine {};
+    struct stat there {};
+    if (fstat(descriptor_, &mine) != 0) return kDeviceIoError;
+    if (stat(hostPath.c_str(), &there) != 0) return ErrorFromErrno(errno, hostPath);
+    *isThis = mine.st_dev == there.st_dev && mine.st_ino == there.st_ino;
+    return kNoError;
+  }
+
   int32_t Commit() override {
     const int result = close(descriptor_);
     descriptor_ = -1;
@@ -89,6 +99,7 @@ class ReplacedFile : public HostFile {
   int32_t WriteAt(int64_t, const void*, size_t) override { return kBadFileNumber; }
   int32_t Append(const void* data, size_t size) override { return replacement_.Append(data, size); }
   int32_t Length(int64_t* length) override { return replacement_.Length(length); }
+  int32_t IsAt(const std::string&, bool*) override { return kBadFileNumber; }
   int32_t Commit() override { return replacement_.Commit(); }
 
  private:
@@ -125,7 +136,9 @@ int32_t PosixFiles::OpenHost(HostMode mode, const std::string& path,
       error = OpenDescriptor(hostPath, O_WRONLY | O_APPEND | O_CREAT, &descriptor);
       break;
     case HostMode::kRandom:
-      error = OpenDescriptor(hostPath, O_RDWR | O_CREAT, &descriptor);
+    case HostMode::kRandomExisting:
+      error = OpenDescriptor(hostPath, mode == HostMode::kRandom ? O_RDWR | O_CREAT : O_RDWR,
+                             &descriptor);
       if (error != kNoError && OpenDescriptor(hostPath, O_RDONLY, &descriptor) == kNoError) {
         error = kNoError;
       }

@@ -10,7 +10,8 @@ namespace {
 std::string ProfilePath(const std::string& file) {
   if (file.find_first_of("\\/:") != std::string::npos) return HostPath(file);
   std::string name = file;
-  FindName(HostWindowsFolder(), file, &name);
+  std::string other;
+  FindName(HostWindowsFolder(), file, &name, &other);
   return HostWindowsFolder() + "/" + name;
 }
 

@@ -138,4 +138,16 @@ std::string ToUpper(std::string_view stationText) {
   return upper;
 }
 
+// Each small letter is found by its capital: the table above is the only one.
+std::string ToLower(std::string_view stationText) {
+  std::string lower(stationText);
+  for (char& c : lower) {
+    for (const int distance : {32, 16, 96}) {
+      const char small = static_cast<char>(static_cast<unsigned char>(c) + distance);
+      if (small != c && ToUpper(std::string_view(&small, 1))[0] == c) c = small;
+    }
+  }
+  return lower;
+}
+
 }  // namespace logchecker

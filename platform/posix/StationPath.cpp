@@ -19,22 +19,35 @@ bool Exists(const std::string& path) {
   return lstat(path.c_str(), &facts) == 0;
 }
 
+// The system that the names come from drops full stops and blanks at the end of a name.
+std::string NameThatIsKept(const std::string& name) {
+  const size_t last = name.find_last_not_of(". ");
+  return last == std::string::npos ? name : name.substr(0, last + 1);
+}
+
 // A host path with the name of each part as it is called there.
-std::string WithFoundNames(const std::string& path) {
+std::string WithFoundNames(const std::string& path, HostLookalike* lookalike) {
   if (path.empty() || Exists(path)) return path;
   std::string result = path[0] == '/' ? "/" : "";
+  bool exists = true;
   size_t begin = path.find_first_not_of('/');
   while (begin != std::string::npos) {
-    size_t end = path.find('/', begin);
-    if (end == std::string::npos) end = path.size();
-    std::string name = path.substr(begin, end - begin);
-    if (!FindName(result, name, &name)) return result + path.substr(begin);
-    result += name;
-    const size_t next = path.find_first_not_of('/', end);
+    const size_t end = std::min(path.find('/', begin), path.size());
+    const std::string name = path.substr(begin, end - begin);
+    std::string found;
+    std::string other;
+    exists = exists && FindName(result, name, &found, &other);
+    if (!other.empty() && lookalike->other.empty()) *lookalike = {result + found, result + other};
+    result += exists ? found : NameThatIsKept(name);
     if (end < path.size()) result += '/';
-    begin = next;
+    begin = path.find_first_not_of('/', end);
   }
   return result;
+}
+
+std::string WithFoundNames(const std::string& path) {
+  HostLookalike ignored;
+  return WithFoundNames(path, &ignored);
 }
 
 // Settings are read and written by host paths, and looked for by station paths, which are found in
@@ -68,13 +81,21 @@ void SetHostWindowsFolder(const std::string& folder) {
   WindowsFolderSlot() = WithFoundNames(folder);
 }
 
-bool FindName(const std::string& hostFolder, const std::string& name, std::string* found) {
+bool FindName(const std::string& hostFolder, const std::string& name, std::string* found,
+              std::string* other) {
+  other->clear();
   const std::string folder = hostFolder.empty() ? "." : hostFolder;
   if (Exists(folder + "/" + name)) {
     *found = name;
     return true;
   }
-  return FindFoldedName(folder, name, found);
+  if (FindFoldedName(folder, name, found, other)) return true;
+  const std::string kept = NameThatIsKept(name);
+  return kept != name && FindName(hostFolder, kept, found, other);
+}
+
+std::string HostPath(std::string_view stationPath, HostLookalike* lookalike) {
+  return WithFoundNames(WithoutDrive(ToUtf8(stationPath)), lookalike);
 }
 
 std::string HostPath(std::string_view stationPath) {

@@ -8,9 +8,20 @@ namespace logchecker {
 
 // Both separators serve, a drive "X:" is the folder drives/x in the Windows folder, and a share
 // "\\server\share" is drives/unc/server/share there. Each part is found exactly if it exists so,
-// else without regard to letter case, since the dialogs store paths in upper case. Parts that do
-// not exist stay as they are written. The result is in UTF-8.
+// else without regard to letter case, since the dialogs store paths in upper case. In a folder that
+// can't be listed it is looked for as it is written and in lower case. A name that ends in full
+// stops or blanks and isn't there loses them, as it does on the system that the names come from.
+// Parts that do not exist stay as they are written otherwise. The result is in UTF-8.
 std::string HostPath(std::string_view stationPath);
+
+// Two host paths whose last parts differ only in letter case.
+struct HostLookalike {
+  std::string taken;
+  std::string other;  // empty when there is none
+};
+
+// The same; the first part that could stand for several entries is put down in `lookalike`.
+std::string HostPath(std::string_view stationPath, HostLookalike* lookalike);
 
 // The folder that holds profile files, drives and the registry; a host path, whose parts are found
 // as those of a station path are.
@@ -19,7 +30,8 @@ void SetHostWindowsFolder(const std::string& folder);
 
 // `name` as it is called in the folder `hostFolder`; false when nothing there bears it, whatever
 // the letter case. Of several that differ only in case the exact one is taken, else the first in
-// byte order.
-bool FindName(const std::string& hostFolder, const std::string& name, std::string* found);
+// byte order, and `other` is the next.
+bool FindName(const std::string& hostFolder, const std::string& name, std::string* found,
+              std::string* other);
 
 }  // namespace logchecker

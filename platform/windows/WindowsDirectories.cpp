@@ -87,6 +87,8 @@ class SystemDirectories : public Directories {
     if (end != std::string::npos) end = path.find_first_of("\\/", end + 1);
     return static_cast<int32_t>(end == std::string::npos ? path.size() : end + 1);
   }
+
+  bool FindLookalike(const std::string&, Lookalike*) override { return false; }
 };
 
 }  // namespace

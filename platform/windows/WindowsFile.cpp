@@ -29,7 +29,9 @@ int32_t OpenWindowsFile(HostMode mode, const std::string& path, std::unique_ptr<
     case HostMode::kReplace:
       return OpenWindowsReplacement(path, file);
     case HostMode::kRandom:
-      handle = OpenShared(path, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
+    case HostMode::kRandomExisting:
+      handle = OpenShared(path, GENERIC_READ | GENERIC_WRITE,
+                          mode == HostMode::kRandom ? OPEN_ALWAYS : OPEN_EXISTING);
       if (handle == INVALID_HANDLE_VALUE && LastErrorNumber() == kPermissionDenied)
         handle = OpenShared(path, GENERIC_READ, OPEN_EXISTING);
       break;

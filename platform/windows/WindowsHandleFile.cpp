@@ -2,6 +2,7 @@
 
 #include "platform/ErrorNumbers.h"
 #include "platform/windows/WindowsErrors.h"
+#include "platform/windows/WindowsFile.h"
 
 namespace logchecker {
 
@@ -67,6 +68,24 @@ int32_t WindowsFile::Length(int64_t* length) {
   LARGE_INTEGER size;
   if (!GetFileSizeEx(handle_, &size)) return LastErrorNumber();
   *length = size.QuadPart;
+  return kNoError;
+}
+
+int32_t WindowsFile::IsAt(const std::string& path, bool* isThis) {
+  // With no rights asked, so that a file that others hold answers too, and a directory.
+  const HANDLE other = CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                                   FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+  if (other == INVALID_HANDLE_VALUE) return OpenErrorNumber(path);
+  BY_HANDLE_FILE_INFORMATION mine;
+  BY_HANDLE_FILE_INFORMATION there;
+  const bool known =
+      GetFileInformationByHandle(handle_, &mine) && GetFileInformationByHandle(other, &there);
+  const int32_t error = known ? kNoError : LastErrorNumber();
+  CloseHandle(other);
+  if (!known) return error;
+  *isThis = mine.dwVolumeSerialNumber == there.dwVolumeSerialNumber &&
+            mine.nFileIndexHigh == there.nFileIndexHigh &&
+            mine.nFileIndexLow == there.nFileIndexLow;
   return kNoError;
 }
 

@@ -23,6 +23,7 @@ class WindowsFile : public HostFile {
   int32_t WriteAt(int64_t offset, const void* data, size_t size) override;
   int32_t Append(const void* data, size_t size) override;
   int32_t Length(int64_t* length) override;
+  int32_t IsAt(const std::string& path, bool* isThis) override;
   int32_t Commit() override;
 
  protected:

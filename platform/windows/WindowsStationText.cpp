@@ -91,6 +91,12 @@ std::string ToUpper(std::string_view stationText) {
   return upper;
 }
 
+std::string ToLower(std::string_view stationText) {
+  std::string lower(stationText);
+  CharLowerBuffA(lower.data(), static_cast<DWORD>(lower.size()));
+  return lower;
+}
+
 std::string ToHostPath(std::string_view stationPath) { return ToUtf8(stationPath); }
 
 std::string FromHostPath(std::string_view hostPath) {

@@ -12,6 +12,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+#include "cartstore/OpenAudiowall.h"
 #include "cartstore/ui/frmCartLocations.h"
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/Numbers.h"
@@ -147,6 +148,7 @@ void frmMain::OnLogSettings(int16_t split) {
   LoadSplitSettings(gSettingsFile, split);
   NameLogSettingsEntry(split);
   gSplits(split).UpdateInfo();
+  ReopenReplacedParts();
   gSplits(split).LoadLogFile();
 }
 

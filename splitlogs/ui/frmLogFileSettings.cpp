@@ -6,6 +6,7 @@
 #include "common/Dates.h"
 #include "common/FolderHelpers.h"
 #include "common/GeneralSettings.h"
+#include "common/Lookalikes.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
@@ -104,6 +105,8 @@ void frmLogFileSettings::OnOk() {
     return;
   }
   if (!MakeSourceDirectory()) return;
+  ForgetToldLookalikes();
+  TellLookalike(TextOf(ui_->txtSourceDirectory));
   WriteSettings();
   if (Val(Tag) == 0) {
     ShowInformation(std::string("These settings will take effect from the next time you start ") +

@@ -28,6 +28,15 @@ TEST_F(FindCartTest, AWalkListsWhatMatchesInItsOrder) {
   EXPECT_THAT(Found(), ElementsAre(100, 99, 50, 5, 1));
 }
 
+TEST_F(FindCartTest, AListFileThatWasReplacedIsSearchedAsItIsNow) {
+  find.StartCart = 290;
+  FindText("A CART");
+  EXPECT_THAT(Found(), ElementsAre(0));
+  ReplaceListFile(1, 60.0F);
+  FindText("A CART");
+  EXPECT_EQ(11U, Found().size());
+}
+
 TEST_F(FindCartTest, FromTheStartOrTheEndTheStartCartDoesNotCount) {
   find.StartCart = 200;
   find.input.SearchFromStart = true;

@@ -1,5 +1,7 @@
 #include "checking/BreakCheck.h"
 
+#include <gmock/gmock.h>
+
 #include <limits>
 
 #include "cartstore/Velmar_Cart_Routines.h"
@@ -72,6 +74,15 @@ class BreakCheckTest : public StationTest {
 };
 
 using Rows = std::vector<std::string>;
+
+TEST_F(BreakCheckTest, AListFileThatWasReplacedSinceTheLoadIsReadAnew) {
+  Fill(1, {{"06:00", {1, 1}}});
+  Fill(2, {{"06:00", {1}}});
+  check.BuildColumns();
+  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 4:00| 2:00")));
+  ReplaceListFile(1, 60.0F);
+  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 2:00| 1:00")));
+}
 
 TEST_F(BreakCheckTest, WithoutALoadedLogThereIsNoWalkAndNoBusyPointer) {
   EXPECT_EQ(Rows{}, Check());

@@ -33,6 +33,14 @@ TEST_F(DayCheckTest, EachDayStartsWithAllLogsClosed) {
   EXPECT_FALSE(next.mismatches[0].Lengths[1].found);
 }
 
+TEST_F(DayCheckTest, AListFileThatWasReplacedSinceTheDayBeforeIsReadAnew) {
+  WriteLog(1, kDay, kBreak);
+  WriteLog(2, kDay, "");
+  EXPECT_EQ(30.0F, CheckDay(kDay).mismatches.at(0).Lengths[0].seconds);
+  ReplaceListFile(1, 40.0F);
+  EXPECT_EQ(40.0F, CheckDay(kDay).mismatches.at(0).Lengths[0].seconds);
+}
+
 TEST_F(DayCheckTest, ADayWithoutAnyLogIsTroubleThatNamesSplitsAndFiles) {
   WriteLog(1, kDay, kBreak);
   WriteLog(2, kDay, kBreak);

@@ -137,6 +137,82 @@ TEST_F(FilesTest, EveryNumberCanHaveAnOpenFile) {
   }
 }
 
+TEST_F(FilesTest, AFileCanBeClosedAndItsNumberKept) {
+  folder_.WriteFile("file.txt", "abc");
+  const int16_t number = Input("file.txt");
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError) << "without a file";
+  bool atEnd = false;
+  EXPECT_EQ(files_.EndOfFile(number, &atEnd), kBadFileNumber);
+  EXPECT_NE(Number(), number);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("missing")), kFileNotFound);
+  EXPECT_NE(Number(), number);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("file.txt")), kNoError);
+  EXPECT_EQ(files_.Close(number), kNoError);
+  EXPECT_EQ(Number(), number);
+}
+
+TEST_F(FilesTest, WhatWasWrittenIsThereWhenTheNumberIsKept) {
+  const int16_t number = Number();
+  ASSERT_EQ(files_.OpenForOutput(number, folder_.Path("out.txt")), kNoError);
+  EXPECT_EQ(files_.Write(number, "abc"), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kNoError);
+  EXPECT_EQ(folder_.ReadFile("out.txt"), "abc");
+}
+
+TEST_F(FilesTest, ANumberThatNobodyHoldsCannotBeOpenedOrKept) {
+  folder_.WriteFile("file.txt", "abc");
+  const int16_t number = Input("file.txt");
+  EXPECT_EQ(files_.Close(number), kNoError);
+  EXPECT_EQ(files_.CloseAndKeepNumber(number), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForInput(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForAppend(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenForOutput(number, folder_.Path("file.txt")), kBadFileNumber);
+  EXPECT_EQ(files_.OpenRandom(number, folder_.Path("new.txt"), 3), kBadFileNumber);
+  EXPECT_FALSE(folder_.Exists("new.txt"));
+  EXPECT_EQ(Number(), number);
+}
+
+// A file of 3 bytes in another one's place; the other goes to "away".
+TEST_F(FilesTest, AReplacedFileIsOpenedInItsPlaceUnderTheSameNumber) {
+  folder_.WriteFile("list", "old");
+  folder_.WriteFile("new", "new");
+  const std::string path = folder_.Path("list");
+  const int16_t number = Random("list", 3);
+  std::string record = "---";
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kNoError) << "the same";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "old");
+  std::filesystem::rename(path, folder_.Path("away"));
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kFileNotFound);
+  EXPECT_FALSE(folder_.Exists("list")) << "it is not made";
+  record = "---";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "old");
+  std::filesystem::rename(folder_.Path("new"), path);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kNoError);
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kNoError);
+  EXPECT_EQ(record, "new");
+  EXPECT_EQ(files_.PutRecord(number, 2, "abc"), kNoError);
+  EXPECT_EQ(folder_.ReadFile("list"), "newabc");
+  EXPECT_EQ(folder_.ReadFile("away"), "old");
+}
+
+TEST_F(FilesTest, AReplacementThatCannotBeOpenedLeavesTheNumberWithoutAFile) {
+  folder_.WriteFile("list", "old");
+  const std::string path = folder_.Path("list");
+  const int16_t number = Random("list", 3);
+  std::filesystem::rename(path, folder_.Path("away"));
+  std::filesystem::create_directory(path);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kPathFileAccess);
+  std::string record = "---";
+  EXPECT_EQ(files_.GetRecord(number, 1, record.data()), kBadFileNumber);
+  EXPECT_EQ(files_.ReopenIfReplaced(number, path), kBadFileNumber);
+  EXPECT_NE(Number(), number) << "it is still held";
+  EXPECT_EQ(files_.ReopenIfReplaced(Output("out"), path), kBadFileNumber);
+  EXPECT_EQ(files_.ReopenIfReplaced(0, path), kBadFileNumber);
+}
+
 TEST_F(FilesTest, BadNumbers) {
   folder_.WriteFile("file.txt", "x");
   const std::string path = folder_.Path("file.txt");

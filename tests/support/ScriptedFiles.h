@@ -30,12 +30,21 @@ class ScriptedFiles : public Files {
     const int32_t error = script_.Enter("Files.OpenRandom");
     return error != 0 ? error : real_.OpenRandom(number, path, recordLength);
   }
+  int32_t ReopenIfReplaced(int16_t number, const std::string& path) override {
+    const int32_t error = script_.Enter("Files.ReopenIfReplaced");
+    return error != 0 ? error : real_.ReopenIfReplaced(number, path);
+  }
   // A close that fails has let go of the number all the same, and of what was written.
   int32_t Close(int16_t number) override {
     const int32_t error = script_.Enter("Files.Close");
     if (error == 0) return real_.Close(number);
     real_.Abandon(number);
     return error;
+  }
+  int32_t CloseAndKeepNumber(int16_t number) override {
+    const int32_t error = script_.Enter("Files.Close");
+    const int32_t closing = real_.CloseAndKeepNumber(number);
+    return error != 0 ? error : closing;
   }
   void Abandon(int16_t number) override { real_.Abandon(number); }
   void CloseAll() override { real_.CloseAll(); }
@@ -115,6 +124,9 @@ class ScriptedDirectories : public Directories {
     return error != 0 ? error : real_.CurrentDirectory(path);
   }
   int32_t RootLength(const std::string& path) override { return real_.RootLength(path); }
+  bool FindLookalike(const std::string& path, Lookalike* lookalike) override {
+    return real_.FindLookalike(path, lookalike);
+  }
 
  private:
   Directories& real_;

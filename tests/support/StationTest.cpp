@@ -10,6 +10,7 @@
 #include "common/ErrorState.h"
 #include "common/GeneralFunctions.h"
 #include "common/GeneralSettings.h"
+#include "common/Lookalikes.h"
 #include "shell/LoadLogs.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
@@ -19,6 +20,7 @@ namespace logchecker {
 
 void ResetGlobals() {
   gErrorState = ErrorState();
+  ForgetToldLookalikes();
   gDebugLevel = 0;
   gDebugLogName.clear();
   gDebugIndent = 0;
@@ -75,6 +77,17 @@ void StationTest::PutCart(int32_t number, const CartRecord& record) {
 }
 
 void StationTest::PutCart(int32_t number, float length) { PutCart(number, RecordOfLength(length)); }
+
+void StationTest::ReplaceListFile(int16_t part, float length) {
+  const std::string name = "part" + std::to_string(part) + "/Carts" + std::to_string(part) + ".lst";
+  const CartRecord record = RecordOfLength(length);
+  std::string bytes;
+  while (bytes.size() < folder().ReadFile(name).size()) {
+    bytes.append(reinterpret_cast<const char*>(&record), sizeof record);
+  }
+  std::filesystem::rename(Path(name), Path(name + ".old"));
+  folder().WriteFile(name, bytes);
+}
 
 void StationTest::WriteLog(int16_t split, int32_t day, std::string_view text) {
   SplitSettings& settings = SettingsOf(split);

@@ -35,6 +35,10 @@ class StationTest : public ::testing::Test {
   // A cart with audio of this length in seconds.
   void PutCart(int32_t number, float length);
 
+  // Puts another list file in the place of a part's, as a restore does: all of its carts are this
+  // long. The one that was lies beside it afterwards.
+  void ReplaceListFile(int16_t part, float length);
+
   // Names the split's log folder and writes its log of `day`, called YYMMDD.LOG.
   void WriteLog(int16_t split, int32_t day, std::string_view text);
 

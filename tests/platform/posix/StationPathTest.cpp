@@ -10,6 +10,7 @@
 #include "platform/Platform.h"
 #include "platform/StationText.h"
 #include "tests/support/OwnWindowsFolder.h"
+#include "tests/support/posix/PlainUser.h"
 
 namespace logchecker {
 namespace {
@@ -85,6 +86,87 @@ TEST_F(StationPathTest, AFileThatComesLaterIsFoundAlthoughTheFolderWasRead) {
   EXPECT_EQ(folder().Path("drives/c/late.log"), HostPath("C:\\LATE.LOG"));
   std::filesystem::remove(folder().Path("drives/c/late.log"));
   EXPECT_EQ(folder().Path("drives/c/LATE.LOG"), HostPath("C:\\LATE.LOG"));
+}
+
+TEST_F(StationPathTest, OfTwoThatFitEquallyTheFirstIsTakenAndBothAreNamed) {
+  MakeFile("Srv/Carts 2/x");
+  MakeFile("Srv/carts 2/x");
+  MakeFile("Srv/cArts 2/x");
+  MakeFile("Srv/Carts 3/x");
+  Lookalike found;
+  Directories& directories = Os().directories;
+  ASSERT_TRUE(directories.FindLookalike(folder().Path("Srv") + "\\CARTS 2\\X", &found));
+  EXPECT_EQ(folder().Path("Srv/Carts 2"), found.taken);
+  EXPECT_EQ(folder().Path("Srv/cArts 2"), found.other);
+  EXPECT_EQ(folder().Path("Srv/Carts 2/x"), HostPath(folder().Path("Srv/CARTS 2/X")));
+  for (const char* path : {"Srv/carts 2/x", "Srv/carts 2/X", "Srv/CARTS 3/X", "Srv/CARTS 4/X"}) {
+    EXPECT_FALSE(directories.FindLookalike(folder().Path(path), &found)) << path;
+  }
+}
+
+TEST_F(StationPathTest, LookalikesOnADriveAreNamedByTheDrive) {
+  MakeFile("drives/x/Audio/Carts1.lst");
+  MakeFile("drives/x/Audio/carts1.lst");
+  Lookalike found;
+  ASSERT_TRUE(Os().directories.FindLookalike("X:\\AUDIO\\CARTS1.LST", &found));
+  EXPECT_EQ("x:\\Audio\\Carts1.lst", found.taken);
+  EXPECT_EQ("x:\\Audio\\carts1.lst", found.other);
+}
+
+// Nobody can tell how a name is spelled there, so the usual spelling is tried.
+TEST_F(StationPathTest, InAFolderThatCannotBeListedNamesAreTriedInLowerCase) {
+  MakeFile("srv/caf\xC3\xA9/Carts/x");
+  OpenToAll(folder());
+  const std::string closed = folder().Path("srv");
+  std::filesystem::permissions(closed, std::filesystem::perms::owner_exec |
+                                           std::filesystem::perms::group_exec |
+                                           std::filesystem::perms::others_exec);
+  {
+    const WithoutRights plainUser;
+    EXPECT_EQ(folder().Path("srv/caf\xC3\xA9/Carts/x"),
+              HostPath(folder().Path("SRV/CAF\xC9/CARTS/X")));
+    EXPECT_EQ(folder().Path("srv/OTHER"), HostPath(folder().Path("SRV/OTHER")));
+  }
+  std::filesystem::permissions(closed, std::filesystem::perms::owner_all);
+  EXPECT_EQ(folder().Path("srv/caf\xC3\xA9"), HostPath(folder().Path("SRV/CAF\xC9")));
+}
+
+TEST_F(StationPathTest, FullStopsAndBlanksAtTheEndOfANameAreDroppedUnlessItIsSo) {
+  MakeFile("drives/c/Logs/260302");
+  MakeFile("drives/c/Logs/260303.");
+  MakeFile("drives/c/Logs/260303");
+  MakeFile("drives/c/Logs/a. b/x");
+  struct Case {
+    const char* station;
+    const char* host;
+  };
+  const Case cases[] = {
+      {"C:\\LOGS\\260302.", "drives/c/Logs/260302"},
+      {"C:\\LOGS. .\\260302. ", "drives/c/Logs/260302"},
+      {"C:\\LOGS\\260303.", "drives/c/Logs/260303."},
+      {"C:\\LOGS\\260303", "drives/c/Logs/260303"},
+      {"C:\\LOGS\\A. B.\\X", "drives/c/Logs/a. b/x"},
+      {"C:\\LOGS\\NEW.\\260304.", "drives/c/Logs/NEW/260304"},
+      {"C:\\NEW\\..\\LOGS\\.", "drives/c/NEW/../LOGS/."},
+      {"C:\\LOGS\\.", "drives/c/Logs/."},
+      {"C:\\LOGS.\\", "drives/c/Logs/"},
+      {"C:\\LOGS\\...", "drives/c/Logs/..."},
+  };
+  for (const Case& row : cases)
+    EXPECT_EQ(folder().Path(row.host), HostPath(row.station)) << row.station;
+}
+
+TEST_F(StationPathTest, AFileIsMadeWithoutTheFullStopThatItsNameEndsIn) {
+  MakeFile("drives/c/Logs/x");
+  Files& files = Os().files;
+  int16_t number = 0;
+  ASSERT_EQ(kNoError, files.FreeFile(&number));
+  EXPECT_EQ(kNoError, files.OpenForAppend(number, "C:\\LOGS\\260302."));
+  EXPECT_EQ(kNoError, files.Close(number));
+  EXPECT_TRUE(folder().Exists("drives/c/Logs/260302"));
+  EXPECT_FALSE(folder().Exists("drives/c/Logs/260302."));
+  EXPECT_EQ(kNoError, Os().directories.MakeDirectory("C:\\LOGS\\SUB. "));
+  EXPECT_TRUE(folder().Exists("drives/c/Logs/SUB"));
 }
 
 TEST_F(StationPathTest, ProfileFilesAreFoundWhateverTheirCase) {
