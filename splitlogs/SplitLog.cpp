@@ -119,7 +119,6 @@ SplitLog::SplitLog() = default;
 SplitLog::~SplitLog() = default;
 
 void SplitLog::SetSplitNumberLabel(const std::string& text) {
-  splitNumberLabel_ = text;
   splitNumber_ = std::max(ToInt16(Val(text)), int16_t{1});
   UpdateInfo();
 }

@@ -29,9 +29,8 @@ class SplitLog {
   int16_t SplitNumber() const { return splitNumber_; }
   const std::string& Caption() const { return caption_; }
 
-  // The text of the hidden label that names the split. Setting it makes its number, at least 1, the
-  // split's number and brings the caption in line.
-  const std::string& SplitNumberLabel() const { return splitNumberLabel_; }
+  // The text of the hidden label that names the split: its number, at least 1, becomes the split's
+  // number, and the caption is brought in line.
   void SetSplitNumberLabel(const std::string& text);
 
   // Sets the caption to the split's name.
@@ -78,7 +77,6 @@ class SplitLog {
   void FillGrid();
 
   int16_t splitNumber_ = 0;
-  std::string splitNumberLabel_;
   std::string caption_ = "Velmar Split";
 };
 

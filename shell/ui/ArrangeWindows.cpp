@@ -1,11 +1,12 @@
 // The child windows of the frame: which there are, and where they stand.
 #include <QAction>
+#include <QCoreApplication>
 #include <QLabel>
 #include <QMdiArea>
+#include <QScrollBar>
 #include <vector>
 
 #include "common/ErrorState.h"
-#include "common/Numbers.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 #include "shell/SplitArrangement.h"
@@ -25,15 +26,31 @@ constexpr int kLeastTileWidth = 3000;  // twips, that of a split window
 
 frmSplit& frmMain::Window(int16_t split) { return static_cast<frmSplit&>(gSplits(split)); }
 
+// Without the scroll bars that the last arrangement may have needed: arranging again must not
+// change what is arranged.
+QSize frmMain::InnerSize() const { return area_->maximumViewportSize(); }
+
+// Places are counted from the area's corner, which may be scrolled out of sight.
+void frmMain::ScrollToCorner() {
+  area_->horizontalScrollBar()->setValue(0);
+  area_->verticalScrollBar()->setValue(0);
+}
+
+// The toolkit would let bars stand that are not needed any more until events run.
+void frmMain::DropUnneededScrollBars() {
+  QCoreApplication::sendPostedEvents(area_, QEvent::LayoutRequest);
+}
+
 void frmMain::UpdateSplitInfo() {
   const int16_t active = gGeneralSettings.NumberActiveSplits;
   splitsPanel_->setText(QString("%1 Splits").arg(active));
   RequireSplitsInRange();
   ArrangeSplits();
   UnloadInactiveSplits();
+  DropUnneededScrollBars();
   mnuLogSettingsSep_->setVisible(active > 0);
   if (active == 0) throw RunTimeError(kInvalidCall, "no split is active: NumberActiveSplits is 0");
-  area_->setActiveSubWindow(&Window(1));
+  StackSplits();
 }
 
 void frmMain::ArrangeSplits() {
@@ -42,25 +59,30 @@ void frmMain::ArrangeSplits() {
   for (int16_t n = 1; n <= active; ++n) {
     if (Window(n).isMinimized() || Window(n).isMaximized()) Window(n).showNormal();
   }
-  const QSize inner = area_->viewport()->size();
+  ScrollToCorner();
+  const QSize inner = InnerSize();
   SplitArrangement arrangement(ToTwips(inner.width()), ToTwips(inner.height()),
                                ToTwips(Window(1).width()), active);
   for (int16_t n = 1; n <= active; ++n) {
     frmSplit& window = Window(n);
     QAction* entry = mnuLogSettings_[static_cast<size_t>(n - 1)];
     entry->setVisible(true);
-    if (Val(window.SplitNumberLabel()) == n) {
-      window.UpdateInfo();
-    } else {
-      window.SetSplitNumberLabel(std::to_string(n));
-    }
+    window.UpdateInfo();
     NameLogSettingsEntry(n);
     const SplitArrangement::Place place = arrangement.Next(ToTwips(window.width()));
     window.setGeometry(ToPixels(place.left), ToPixels(place.top), window.width(),
                        ToPixels(place.height));
     window.show();
-    window.lower();
   }
+}
+
+// Split 1 in front with the focus, the others at the back in their order. It takes the whole stack
+// at the end: the toolkit raises each window that it shows for the first time, and once more when
+// another becomes active.
+void frmMain::StackSplits() {
+  area_->setActiveSubWindow(&Window(1));
+  Window(1).raise();
+  for (int16_t n = 2; n <= gGeneralSettings.NumberActiveSplits; ++n) Window(n).lower();
 }
 
 void frmMain::NameLogSettingsEntry(int16_t split) {
@@ -75,7 +97,6 @@ void frmMain::UnloadInactiveSplits() {
     QAction* entry = mnuLogSettings_[static_cast<size_t>(n - 1)];
     entry->setText({});
     entry->setVisible(false);
-    gSplits(n).SetSplitNumberLabel(std::to_string(n));
     gSplits.Unload(n);
   }
 }
@@ -85,13 +106,15 @@ void frmMain::TileChildren() {
   for (QMdiSubWindow* child : area_->subWindowList(QMdiArea::CreationOrder)) {
     if (!child->isHidden() && !child->isMinimized()) children.push_back(child);
   }
-  const QSize inner = area_->viewport()->size();
+  ScrollToCorner();
+  const QSize inner = InnerSize();
   const std::vector<TilePlace> places = TileVertically(
       static_cast<int>(children.size()), inner.width(), inner.height(), ToPixels(kLeastTileWidth));
   for (size_t i = 0; i < children.size(); ++i) {
     const TilePlace& place = places[i];
     children[i]->setGeometry(place.left, place.top, place.width, place.height);
   }
+  DropUnneededScrollBars();
 }
 
 }  // namespace logchecker

@@ -37,7 +37,6 @@ void frmMain::BuildToolbar() {
     button->setAutoRaise(true);
     button->setToolTip(tip);
     button->setAccessibleName(caption);
-    button->setAccessibleDescription(tip);
     button->setFocusPolicy(Qt::StrongFocus);
     auto* label = new ClickableLabel;
     label->setObjectName(labelName);

@@ -100,7 +100,7 @@ void frmMain::OnCheckDay() {
   if (!checkBreaks_) {
     checkBreaks_ = new frmCheckBreaks([] { return CurrentLogDate; });
     area_->addSubWindow(checkBreaks_);
-    checkBreaks_->Load(area_->viewport()->size());
+    checkBreaks_->Load(InnerSize());
   }
   // Whoever asks for the check wants to see what it finds.
   if (checkBreaks_->isMinimized()) checkBreaks_->showNormal();
@@ -162,9 +162,7 @@ void frmMain::OnAbout() {
 void frmMain::OnChildActivated(QMdiSubWindow* child) {
   if (child == nullptr && checkBreaks_ && checkBreaks_->isVisible()) return;
   const bool results = qobject_cast<frmCheckBreaks*>(child) != nullptr;
-  if (results) {
-    printFollows_ = true;
-  }
+  if (results) printFollows_ = true;
   if (printFollows_) mnuPrint_->setEnabled(results);
 }
 

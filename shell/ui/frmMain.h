@@ -85,8 +85,12 @@ class frmMain : public QMainWindow {
   void Unload();
 
   frmSplit& Window(int16_t split);
-  void ShowSplitEntries();
+  // Of the area that the child windows stand in, in logical pixels.
+  QSize InnerSize() const;
+  void ScrollToCorner();
+  void DropUnneededScrollBars();
   void ArrangeSplits();
+  void StackSplits();
   void NameLogSettingsEntry(int16_t split);
   void UnloadInactiveSplits();
 
