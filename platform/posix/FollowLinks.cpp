@@ -19,8 +19,8 @@ std::string FollowLinks(const std::string& hostPath) {
   for (int links = 0; links < kMostLinks; ++links) {
     const ssize_t length = readlink(file.c_str(), text, sizeof text);
     if (length <= 0) break;
-    const std::string target(text, static_cast<size_t>(length));
-    file = target[0] == '/' ? target : FolderOf(file) + target;
+    file = text[0] == '/' ? "" : FolderOf(file);
+    file.append(text, static_cast<size_t>(length));
   }
   return file;
 }
