@@ -82,7 +82,8 @@ void StationTest::ReplaceListFile(int16_t part, float length) {
   const std::string name = "part" + std::to_string(part) + "/Carts" + std::to_string(part) + ".lst";
   const CartRecord record = RecordOfLength(length);
   std::string bytes;
-  while (bytes.size() < folder().ReadFile(name).size()) {
+  const size_t size = folder().ReadFile(name).size();
+  while (bytes.size() < size) {
     bytes.append(reinterpret_cast<const char*>(&record), sizeof record);
   }
   std::filesystem::rename(Path(name), Path(name + ".old"));
