@@ -7,8 +7,8 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
-# Beside the libraries: the folders of the icons.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "hicolor-icon-theme")
+# Beside the libraries: the folders of the icons, and a font for paper.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "hicolor-icon-theme, fonts-liberation | fonts-liberation2")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "cups-client")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
   "A station that sends one programme out in several splits must start

@@ -1,6 +1,7 @@
 #include "printing/ui/PrinterDialog.h"
 
 #include <QAbstractButton>
+#include <QChildEvent>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLineEdit>
@@ -31,6 +32,43 @@ void PrinterDialog::TakeLastPrinter() {
     printer()->setPrinterName(gLastPrinter->name);
   }
   printer()->setPageLayout(gLastPrinter->layout);
+}
+
+bool PrinterDialog::IsLastPrinter() const {
+  if (!gLastPrinter) return false;
+  const auto* printers = findChild<QComboBox*>("printers");
+  if (printers == nullptr) return printer()->printerName() == gLastPrinter->name;
+  const bool isFile = printers->currentIndex() == printers->count() - 1;
+  return gLastPrinter->file.isEmpty() ? printers->currentText() == gLastPrinter->name : isFile;
+}
+
+// The toolkit goes back to a queue's own paper whenever it looks at the properties, which it also
+// does when nobody opened them.
+void PrinterDialog::accept() {
+  const bool keepPaper = !paperPicked_ && IsLastPrinter();
+  QPrintDialog::accept();
+  if (keepPaper) printer()->setPageLayout(gLastPrinter->layout);
+}
+
+void PrinterDialog::childEvent(QChildEvent* event) {
+  if (event->added()) event->child()->installEventFilter(this);
+  QPrintDialog::childEvent(event);
+}
+
+bool PrinterDialog::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && !paperPicked_) {
+    if (auto* properties = qobject_cast<QDialog*>(watched)) ShowLastPaper(properties);
+  }
+  return QPrintDialog::eventFilter(watched, event);
+}
+
+void PrinterDialog::ShowLastPaper(QDialog* properties) {
+  auto* sizes = properties->findChild<QComboBox*>("pageSizeCombo");
+  if (sizes == nullptr) return;
+  connect(properties, &QDialog::accepted, this, [this] { paperPicked_ = true; });
+  if (!IsLastPrinter()) return;
+  const int index = sizes->findText(gLastPrinter->layout.pageSize().name());
+  if (index >= 0) sizes->setCurrentIndex(index);
 }
 
 // Pages are picked as a range of them, which serves every printer. What the toolkit offers beside,

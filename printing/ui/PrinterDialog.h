@@ -12,14 +12,22 @@ namespace logchecker {
 class PrinterDialog : public QPrintDialog {
  public:
   PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner);
+  void accept() override;
+
+ protected:
+  void childEvent(QChildEvent* event) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void TakeLastPrinter();
+  bool IsLastPrinter() const;
+  void ShowLastPaper(QDialog* properties);
   void Offer(const PrinterQuestion& question);
   void Withhold(const char* control);
   void ShowOptions();
 
   QWidget* withheld_;
+  bool paperPicked_ = false;  // the properties, which have the paper, were confirmed
 };
 
 }  // namespace logchecker

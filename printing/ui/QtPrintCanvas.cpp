@@ -25,8 +25,9 @@ QString Printable(std::string_view text) {
 }  // namespace
 
 QtPrintCanvas::QtPrintCanvas(QPrinter& chosen, const QString& title) : job_(chosen, title) {
-  // The system says what stands for it where it is not there, when no other name and no hint is given.
-  font_.setFamilies({"Arial"});
+  // Both take the same room. Where neither is there the system says what stands for them.
+  font_.setFamilies({"Arial", "Liberation Sans"});
+  font_.setStyleHint(QFont::SansSerif);
   // Without kerning and ligatures a text is exactly as wide as its characters together, and can be
   // measured one by one.
   font_.setKerning(false);

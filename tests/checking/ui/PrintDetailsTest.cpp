@@ -1,10 +1,18 @@
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <QDir>
 #include <QFile>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <array>
 
 #include "common/DatePicture.h"
 #include "platform/HostPaths.h"
 #include "tests/checking/ui/ResultsTest.h"
+#include "tests/support/ui/FullDisk.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {
@@ -113,6 +121,14 @@ TEST_F(PrintDetailsTest, TheReportHasTitleHeadingsAndRows) {
   EXPECT_EQ(ui.yields, 2) << "one when the window loads, one before the printing";
 }
 
+TEST_F(PrintDetailsTest, WithNoRowSelectedAllIsPresetAndTheWholeListPrints) {
+  Check();
+  List()->clearSelection();
+  Print();
+  EXPECT_FALSE(presetSelection);
+  EXPECT_TRUE(Text().contains("07:00"));
+}
+
 TEST_F(PrintDetailsTest, WithOneRowSelectedAllIsPresetAndTheWholeListPrints) {
   Check();
   ClickRow(1);
@@ -144,6 +160,73 @@ TEST_F(PrintDetailsTest, SeveralCopiesEndInOneMessage) {
   Print(3);
   EXPECT_EQ(ui.messages.size(), 1U);
   EXPECT_EQ(Text().count("07:00"), 1) << "each copy is a job of its own, of one copy";
+}
+
+// Each job replaces the file of the one before.
+TEST_F(PrintDetailsTest, ThreeCopiesAreThreeJobs) {
+  Check();
+  const int watch = inotify_init1(IN_NONBLOCK);
+  ASSERT_GE(inotify_add_watch(watch, ToHostPath(folder().Path()).c_str(), IN_MOVED_TO | IN_CREATE),
+            0);
+  Print(3);
+  alignas(inotify_event) std::array<char, 4096> events{};
+  const ssize_t length = read(watch, events.data(), events.size());
+  close(watch);
+  int jobs = 0;
+  for (ssize_t at = 0; at < length;) {
+    const auto* event = reinterpret_cast<const inotify_event*>(events.data() + at);
+    if (std::string(event->name) == "report.pdf") ++jobs;
+    at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
+  }
+  EXPECT_EQ(jobs, 3);
+}
+
+TEST_F(PrintDetailsTest, PaperAndOrientationAreThoseThatWerePicked) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    auto* printers = Control<QComboBox>(dialog, "printers");
+    printers->setCurrentIndex(printers->count() - 1);
+    Control<QPushButton>(dialog, "properties")->click();
+    AnswerDialog(dialog, 1, std::nullopt);
+  });
+  script.Then([](QDialog* properties) {
+    auto* sizes = Control<QComboBox>(properties, "pageSizeCombo");
+    sizes->setCurrentIndex(sizes->findText("A4", Qt::MatchStartsWith));
+    Control<QRadioButton>(properties, "landscape")->click();
+    properties->accept();
+  });
+  window->PrintDetails();
+  EXPECT_TRUE(OutputOf("pdfinfo", {pdf}).contains(QRegularExpression("Page size: +842 x 595")))
+      << OutputOf("pdfinfo", {pdf}).toStdString();
+}
+
+TEST_F(PrintDetailsTest, OfARangeOfPagesThatIsNotThereTheReasonIsSaid) {
+  Check();
+  DialogScript script([&](QDialog* dialog) {
+    Control<QRadioButton>(dialog, "printRange")->setChecked(true);
+    Control<QSpinBox>(dialog, "to")->setValue(9);
+    Control<QSpinBox>(dialog, "from")->setValue(8);
+    AnswerDialog(dialog, 1, std::nullopt);
+  });
+  window->PrintDetails();
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_NE(ui.messages[0].text.find("There are no such pages"), std::string::npos);
+  EXPECT_FALSE(QFile::exists(pdf));
+}
+
+TEST_F(PrintDetailsTest, OnAFullDiskTheFileThatIsThereStaysAndTheReasonIsSaid) {
+  Check();
+  for (const rlim_t room : {0, 4096}) {
+    folder().WriteFile("report.pdf", "old");
+    ui.messages.clear();
+    const FullDisk full(room);
+    PrintPastTheDialogsTests(1);
+    ASSERT_EQ(ui.messages.size(), 1U);
+    EXPECT_EQ(ui.messages[0].text,
+              "There was a problem printing your Check Split Times Report on " + pdf.toStdString() +
+                  "Disk full: " + QDir::tempPath().toStdString());
+    EXPECT_EQ(folder().ReadFile("report.pdf"), "old");
+  }
 }
 
 TEST_F(PrintDetailsTest, ACancelledDialogEndsInSilence) {

@@ -1,4 +1,5 @@
 // The report on a real queue of a real print scheduler.
+#include <QDir>
 #include <QImage>
 #include <QLineEdit>
 #include <QPrintDialog>
@@ -11,6 +12,7 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
+#include "tests/support/ui/FullDisk.h"
 #include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
@@ -69,6 +71,17 @@ TEST_F(QueueTest, TheRefusalOfAQueueIsSaidOnceWithItsReason) {
   queue.Command("cupsreject");
   Print(3);
   EXPECT_EQ(Said(), kProblem + "Destination \"" + PrintQueue::kName + "\" is not accepting jobs.");
+  EXPECT_TRUE(queue.Jobs().isEmpty());
+}
+
+TEST_F(QueueTest, WhereTheTemporaryFolderIsFullNothingGoesToTheQueue) {
+  Check();
+  for (const rlim_t room : {0, 4096}) {
+    ui.messages.clear();
+    const FullDisk full(room);
+    Print(3);
+    EXPECT_EQ(Said(), kProblem + "Disk full: " + QDir::tempPath().toStdString());
+  }
   EXPECT_TRUE(queue.Jobs().isEmpty());
 }
 

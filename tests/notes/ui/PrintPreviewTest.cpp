@@ -16,6 +16,7 @@
 #include "notes/ui/frmPrintPreview.h"
 #include "platform/HostPaths.h"
 #include "platform/Platform.h"
+#include "tests/support/ui/FullDisk.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -54,6 +55,7 @@ class PrintPreviewTest : public WindowTest {
     });
     Press("cmdPrint");
     pages = OutputOf("pdfinfo", {pdf}).count(QRegularExpression("Pages: +1\n"));
+    fonts = OutputOf("pdffonts", {pdf});
     return OutputOf("pdftotext", {pdf, "-"});
   }
   static QString OutputOf(const QString& program, const QStringList& arguments) {
@@ -88,6 +90,7 @@ class PrintPreviewTest : public WindowTest {
 
   frmPrintPreview preview;
   bool presetSelection = false;
+  QString fonts;
   qsizetype pages = 0;  // 1 where a file of one page was printed
 };
 
@@ -188,6 +191,31 @@ TEST_F(PrintPreviewTest, ASelectionIsPresetAndPrintsAloneUnlessAllIsPicked) {
 TEST_F(PrintPreviewTest, WhereNothingIsSelectedTheSelectionIsEverything) {
   Open(Path("note.rtf"));
   EXPECT_TRUE(Printed(true).contains("first bold"));
+}
+
+TEST_F(PrintPreviewTest, PlainTextPrintsInThePrintersFontWhoseCharactersAreOfOneWidth) {
+  Open(Path("note.txt"));
+  Printed(std::nullopt);
+  EXPECT_EQ(fonts.count(QRegularExpression("(Courier|Mono).* yes ")), 1) << fonts.toStdString();
+  EXPECT_EQ(fonts.count('\n'), 3) << "under the two lines of the heading one font";
+}
+
+TEST_F(PrintPreviewTest, AFullDiskIsSaid) {
+  Open(Path("note.rtf"));
+  folder().WriteFile("out.pdf", "old");
+  DialogScript script([&](QDialog* dialog) {
+    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    printer->printer()->setOutputFileName(HostName("out.pdf"));
+    printer->done(QDialog::Accepted);
+  });
+  {
+    const FullDisk full(4096);
+    Press("cmdPrint");
+  }
+  ASSERT_EQ(ui.messages.size(), 1U);
+  EXPECT_EQ(ui.messages[0].text.find("There was a problem while printing."), 0U);
+  EXPECT_NE(ui.messages[0].text.find(ErrorText(kDiskFull)), std::string::npos);
+  EXPECT_EQ(folder().ReadFile("out.pdf"), "old");
 }
 
 TEST_F(PrintPreviewTest, AFailureOfThePrinterIsSaid) {
