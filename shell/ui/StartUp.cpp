@@ -15,7 +15,7 @@
 namespace logchecker {
 
 bool frmMain::Load() {
-  Splash().show();
+  Splash().ShowAtStart();
   Splash().SetCurrentAction("Getting Velmar KLT Settings...");
   LoadGeneralSettings();
   if (!PassFirstRunTest()) return false;
