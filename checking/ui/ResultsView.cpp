@@ -71,6 +71,13 @@ void ResultsView::keyPressEvent(QKeyEvent* event) {
     emit rowChosen();
     return;
   }
+  // The toolkit makes the first row the current one, unselected, when the list gets the focus; the
+  // first arrow selects that row and does not go past it.
+  const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+  if (arrow && event->modifiers() == Qt::NoModifier && currentIndex().row() == 0 &&
+      !selectionModel()->hasSelection()) {
+    selectionModel()->clearCurrentIndex();
+  }
   QTreeView::keyPressEvent(event);
 }
 

@@ -179,6 +179,8 @@ void frmCheckBreaks::ShowOutcome() {
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);
   if (check_.picNoResultsVisible) picNoResults_->raise();
+  // Esc, the arrows and Enter are for the outcome, whichever control asked for the check.
+  lvwResults_->setFocus();
 }
 
 void frmCheckBreaks::OnRowChosen() {

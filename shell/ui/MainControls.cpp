@@ -37,7 +37,8 @@ void frmMain::BuildToolbar() {
     button->setAutoRaise(true);
     button->setToolTip(tip);
     button->setAccessibleName(caption);
-    button->setFocusPolicy(Qt::StrongFocus);
+    // A click leaves the focus where the user works.
+    button->setFocusPolicy(Qt::TabFocus);
     auto* label = new ClickableLabel;
     label->setObjectName(labelName);
     label->setText(caption);

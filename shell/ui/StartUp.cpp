@@ -19,7 +19,7 @@
 namespace logchecker {
 
 bool frmMain::Load() {
-  Splash().show();
+  Splash().ShowAtStart();
   Splash().SetCurrentAction("Getting Velmar KLT Settings...");
   LoadGeneralSettings();
   if (!PassReadingTest({kDefaultSettingsFile, gSettingsFile, kFamilySettingsFile})) return false;

@@ -11,6 +11,7 @@
 #include <QShortcut>
 #include <QToolBar>
 #include <QToolButton>
+#include <vector>
 
 #include "cartstore/OpenAudiowall.h"
 #include "cartstore/ui/frmCartLocations.h"
@@ -93,7 +94,23 @@ void frmMain::OnLoadDay() {
   selectHour_->SetMinutes("00");
   selectHour_->exec();
   const std::string tag = selectHour_->Tag;
-  if (Val(tag) > 0) LoadLogs(ToInt32(Val(Mid(tag, 1, 5))));
+  if (Val(tag) <= 0) return;
+  LoadLogs(ToInt32(Val(Mid(tag, 1, 5))));
+  FocusGrid();
+}
+
+// Whoever loads a day wants to look at it: the active split if there is one, else the first that
+// can be seen.
+void frmMain::FocusGrid() {
+  std::vector<QMdiSubWindow*> children{area_->activeSubWindow()};
+  for (int16_t n = 1; n <= gGeneralSettings.NumberActiveSplits; ++n) children.push_back(&Window(n));
+  for (QMdiSubWindow* child : children) {
+    auto* split = qobject_cast<frmSplit*>(child);
+    if (split == nullptr || split->isMinimized()) continue;
+    area_->setActiveSubWindow(split);
+    split->widget()->setFocus();
+    return;
+  }
 }
 
 void frmMain::OnCheckDay() {

@@ -75,6 +75,7 @@ class frmMain : public QMainWindow {
   void OnChildActivated(QMdiSubWindow* child);
   void ListWindows();
   void SwitchFocus();
+  void FocusGrid();
 
   // The start, step by step.
   bool PassReadingTest(const std::vector<std::string>& files);

@@ -1,11 +1,13 @@
 #include "shell/ui/frmSplash.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QScreen>
+#include <QTimer>
 
 #include "common/FileHelpers.h"
 #include "common/SystemHelpers.h"
@@ -21,7 +23,8 @@ namespace logchecker {
 
 namespace {
 
-constexpr int kLogoSize = 96;  // logical pixels
+constexpr int kLogoSize = 96;      // logical pixels
+constexpr int kLongestWait = 500;  // milliseconds
 constexpr char kStationLogo[] = "\\LOGO.BMP";
 
 }  // namespace
@@ -83,6 +86,14 @@ void frmSplash::SetFloating(int16_t floating) {
   setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
+void frmSplash::ShowAtStart() {
+  QEventLoop wait;
+  connect(this, &frmSplash::painted, &wait, &QEventLoop::quit, Qt::QueuedConnection);
+  QTimer::singleShot(kLongestWait, &wait, &QEventLoop::quit);
+  show();
+  wait.exec();
+}
+
 void frmSplash::SetCurrentAction(const std::string& text) {
   ui_->lblCurrentAction->setText(ToQString(text));
   Ui().Yield();
@@ -127,6 +138,7 @@ void frmSplash::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.setPen(palette().color(QPalette::Mid));
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  emit painted();
 }
 
 void frmSplash::keyPressEvent(QKeyEvent* event) {

@@ -23,11 +23,17 @@ class frmSplash : public QWidget {
   int16_t Floating() const { return floating_; }
   void SetFloating(int16_t floating);
 
+  // Shows it and waits until it is painted, which a window manager can delay; half a second at
+  // most.
+  void ShowAtStart();
   // What the program is doing at its start; seen at once.
   void SetCurrentAction(const std::string& text);
 
   // Shows it as the about box, which the user closes with OK. The window is deleted then.
   void ShowAsAboutBox();
+
+ signals:
+  void painted();
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -130,10 +130,26 @@ void LogGridView::keyPressEvent(QKeyEvent* event) {
   QTableView::keyPressEvent(event);
 }
 
-void LogGridView::mouseReleaseEvent(QMouseEvent* event) {
-  QTableView::mouseReleaseEvent(event);
-  if (event->button() == Qt::LeftButton) emit breakChosen();
+// The base would make a row the current one with any button.
+void LogGridView::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  pressed_ = true;
+  QTableView::mousePressEvent(event);
 }
+
+// The base would take each row that a drag comes over for the current one, while the click is on
+// the row that was pressed.
+void LogGridView::mouseMoveEvent(QMouseEvent* /*event*/) {}
+
+void LogGridView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !pressed_) return;
+  pressed_ = false;
+  QTableView::mouseReleaseEvent(event);
+  emit breakChosen();
+}
+
+// The first click has put another row under the pointer, and the second press is not meant for it.
+void LogGridView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
 
 void LogGridView::changeEvent(QEvent* event) {
   QTableView::changeEvent(event);

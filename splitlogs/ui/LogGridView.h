@@ -23,12 +23,16 @@ class LogGridView : public QTableView, public LogGridObserver {
   void SelectionChanged() override;
 
  signals:
-  // A click anywhere on the grid, or Enter in it.
+  // A click of the left button anywhere on the grid, whose row is the one that was pressed, or Enter
+  // in it. A double click is one click.
   void breakChosen();
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void updateGeometries() override;
@@ -41,6 +45,7 @@ class LogGridView : public QTableView, public LogGridObserver {
   LogGrid& grid_;
   LogGridModel* model_;
   bool following_ = false;  // the view is being brought in line with the grid
+  bool pressed_ = false;    // a click has begun
 };
 
 }  // namespace logchecker

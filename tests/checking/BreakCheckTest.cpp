@@ -197,6 +197,21 @@ TEST_F(BreakCheckTest, ALengthBeyondTheStartOfTheMinimumNeverMatches) {
   EXPECT_EQ((Rows{"t37800|10:30|--:--:--.--|--:--:--.--"}), Check());
 }
 
+TEST_F(BreakCheckTest, ALengthIsShownUpToAWholeDay) {
+  PutCart(24, 86400.0F);
+  PutCart(25, 86400.25F);
+  gGeneralSettings.BreakDifferenceMS = 0;
+  Fill(1, {{"24:00", {24}}});
+  Fill(2, {{"24:00", {25}}});
+  EXPECT_EQ((Rows{"t86400|24:00|24:00:00.00|--:--:--.--"}), Check());
+  gGeneralSettings.DisplayCheckHH = false;
+  EXPECT_EQ((Rows{"t86400|24:00|24:00:00|--:--:--"}), Check());
+}
+
+TEST_F(BreakCheckTest, AKeysTimeIsReadWithItsFraction) {
+  EXPECT_EQ(86400.25F, TimeOfResultKey("t86400.25"));
+}
+
 TEST_F(BreakCheckTest, LengthsAreSummedInSinglePrecision) {
   PutCart(22, 65536.0F);
   PutCart(23, 0.003F);

@@ -79,9 +79,11 @@ TEST(FormatTimeDisplay, TheHundredsDecideThePadding) {
 TEST(FormatTimeDisplay, OutsideADayEveryFieldIsDashes) {
   const double nan = std::numeric_limits<double>::quiet_NaN();
   const Display cases[] = {
-      {-1, 202, "--:--:--"},    {86400, 2, "24:00:00"}, {86400.5, 2, "--:--:--"},
-      {-0.001, 4, "--:--"},     {99999, 4, "--:--"},    {86401, 0, "--:--.--"},
-      {-1, 201, "--:--:--.--"}, {88200, 2, "--:--:--"}, {nan, 4, "--:--"},
+      {-1, 202, "--:--:--"},       {86400, 2, "24:00:00"},      {86400.5, 2, "--:--:--"},
+      {-0.001, 4, "--:--"},        {99999, 4, "--:--"},         {86401, 0, "--:--.--"},
+      {-1, 201, "--:--:--.--"},    {88200, 2, "--:--:--"},      {nan, 4, "--:--"},
+      {86400.25, 2, "--:--:--"},   {86400.25, 4, "--:--"},      {86400.25, 201, "--:--:--.--"},
+      {86400, 201, "24:00:00.00"}, {86400.25, 202, "--:--:--"},
   };
   for (const Display& row : cases) {
     EXPECT_EQ(row.text, FormatTimeDisplay(row.seconds, row.mask)) << row.seconds << " " << row.mask;
