@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/Platform.h"
+#include "platform/StationText.h"
 
 namespace logchecker {
 
@@ -48,6 +49,13 @@ int32_t WriteTextFile(const std::string& path, const std::string& bytes) {
     return error;
   }
   return files.Close(number);
+}
+
+std::string PlainTextFile(std::string_view utf8) {
+  std::string lines;
+  for (const char c : utf8) lines += c == '\n' ? "\r\n" : std::string(1, c);
+  std::string stationText;
+  return FromUtf8(lines, &stationText) ? stationText : "\xEF\xBB\xBF" + lines;
 }
 
 }  // namespace logchecker

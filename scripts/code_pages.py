@@ -27,7 +27,7 @@ def main():
             out.append("         " + ", ".join(values) + ",")
         out.append("     }},")
     out += ["};", "", "}  // namespace logchecker"]
-    path = pathlib.Path(__file__).resolve().parent.parent / "printing" / "CodePageTables.cpp"
+    path = pathlib.Path(__file__).resolve().parent.parent / "notes" / "CodePageTables.cpp"
     path.write_text("\n".join(out) + "\n", encoding="ascii")
     print(f"{len(PAGES)} code pages")
 
