@@ -53,7 +53,11 @@ int32_t WriteTextFile(const std::string& path, const std::string& bytes) {
 
 std::string PlainTextFile(std::string_view utf8) {
   std::string lines;
-  for (const char c : utf8) lines += c == '\n' ? "\r\n" : std::string(1, c);
+  lines.reserve(utf8.size());
+  for (const char c : utf8) {
+    if (c == '\n') lines += '\r';
+    lines += c;
+  }
   std::string stationText;
   return FromUtf8(lines, &stationText) ? stationText : "\xEF\xBB\xBF" + lines;
 }

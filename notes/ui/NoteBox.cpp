@@ -1,6 +1,8 @@
 #include "notes/ui/NoteBox.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QMimeData>
+#include <QPainter>
 #include <QPrinter>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -59,6 +61,27 @@ void FitPictures(QTextDocument& document, const QSizeF& page) {
   }
 }
 
+// What the desktop lays out as for the screen is drawn as large as the paper's resolution asks for.
+void DrawPages(const QTextDocument& document, QPrinter& paper) {
+  // A line on the edge would be on this page and the next.
+  constexpr double kEdge = 0.5;
+  const QSizeF page = document.pageSize();
+  QPainter painter(&paper);
+  const double scale = paper.resolution() / NotePixels(kTwipsPerInch);
+  painter.scale(scale, scale);
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.palette.setColor(QPalette::Text, Qt::black);
+  for (int number = 0; number < document.pageCount(); ++number) {
+    if (number > 0) {
+      paper.newPage();
+      painter.translate(0, -page.height());
+    }
+    context.clip = QRectF(0, number * page.height(), page.width(), page.height() - kEdge);
+    painter.setClipRect(context.clip);
+    document.documentLayout()->draw(&painter, context);
+  }
+}
+
 }  // namespace
 
 NoteBox::NoteBox(QWidget* parent) : QTextEdit(parent) {}
@@ -87,15 +110,13 @@ void NoteBox::PrintNote(QPrinter& paper, bool selectionOnly) const {
   if (selectionOnly && cursor.hasSelection()) {
     KeepOnly(*printed, cursor.selectionStart(), cursor.selectionEnd());
   }
-  // The desktop lays out as for the screen, and draws as large as the paper's resolution asks for.
-  const QSizeF page = paper.pageRect(QPrinter::DevicePixel).size() / paper.resolution() *
-                      NotePixels(kTwipsPerInch);
+  const QSizeF page =
+      paper.pageRect(QPrinter::DevicePixel).size() / paper.resolution() * NotePixels(kTwipsPerInch);
   TakePageBreakLinesOff(*printed);
   FitPictures(*printed, page);
   DivideNoteBlocks(*printed, page.width());
-  // With pages of its own size the text gets no page numbers, which a note has none of.
   printed->setPageSize(page);
-  printed->print(&paper);
+  DrawPages(*printed, paper);
 }
 
 QMimeData* NoteBox::createMimeDataFromSelection() const {
