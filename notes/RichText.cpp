@@ -1,6 +1,10 @@
 #include "notes/RichText.h"
 
+#include <algorithm>
+
+#include "notes/RichTextBody.h"
 #include "notes/RichTextReader.h"
+#include "notes/Utf8.h"
 #include "platform/StationText.h"
 
 namespace logchecker {
@@ -8,30 +12,49 @@ namespace logchecker {
 namespace {
 
 constexpr std::string_view kMark = "{\\rtf";
-constexpr size_t kCostOfParagraph = 40;  // characters
+constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+constexpr std::string_view kUtf16Mark = "\xFF\xFE";
+constexpr std::string_view kSwappedUtf16Mark = "\xFE\xFF";
 
-RichTextDocument PlainLines(std::string_view bytes) {
-  RichTextDocument document;
+bool BeginsWith(std::string_view bytes, std::string_view mark) {
+  return bytes.substr(0, mark.size()) == mark;
+}
+
+std::string_view WithoutUtf8Mark(std::string_view bytes) {
+  return BeginsWith(bytes, kUtf8Mark) ? bytes.substr(kUtf8Mark.size()) : bytes;
+}
+
+// Station text of plain ASCII is UTF-8 too; other station text is so by the rarest of accidents.
+std::string PlainToUtf8(std::string_view bytes, bool isCut) {
+  const std::string_view utf8 = isCut ? WithoutCutCharacter(bytes) : bytes;
+  if (BeginsWith(bytes, kUtf8Mark)) return CleanUtf8(WithoutUtf8Mark(utf8));
+  if (BeginsWith(bytes, kUtf16Mark)) return FromUtf16(bytes.substr(kUtf16Mark.size()), false);
+  if (BeginsWith(bytes, kSwappedUtf16Mark)) {
+    return FromUtf16(bytes.substr(kSwappedUtf16Mark.size()), true);
+  }
+  return IsUtf8(utf8) ? std::string(utf8) : ToUtf8(bytes);
+}
+
+void ReadPlainLines(std::string_view utf8, RichTextBody& body) {
   size_t begin = 0;
-  size_t characters = 0;
   // What stands behind the last line's end is a line too, if an empty one.
-  bool more = !bytes.empty();
-  while (more && characters < kMostCharacters) {
-    size_t end = bytes.find_first_of("\r\n", begin);
-    if (end == std::string_view::npos) end = bytes.size();
-    characters += end - begin + kCostOfParagraph;
-    TextParagraph paragraph;
-    if (end > begin) {
-      TextRun run;
-      run.text = ToUtf8(bytes.substr(begin, end - begin));
-      paragraph.runs.push_back(run);
-    }
-    document.paragraphs.push_back(paragraph);
-    const bool pair = end + 1 < bytes.size() && bytes[end] == '\r' && bytes[end + 1] == '\n';
-    more = end < bytes.size();
+  bool more = !utf8.empty();
+  while (more && !body.IsFull()) {
+    const size_t end = std::min(utf8.find_first_of("\r\n", begin), utf8.size());
+    body.AppendText(utf8.substr(begin, end - begin), TextFormat());
+    body.EndParagraph(TextParagraph());
+    const bool pair = end + 1 < utf8.size() && utf8[end] == '\r' && utf8[end + 1] == '\n';
+    more = end < utf8.size();
     begin = end + (pair ? 2 : 1);
   }
-  return document;
+}
+
+void Read(std::string_view bytes, bool isCut, RichTextBody& body) {
+  if (IsRichText(bytes)) {
+    ReadRichTextGroups(WithoutUtf8Mark(bytes), body);
+  } else {
+    ReadPlainLines(PlainToUtf8(bytes, isCut), body);
+  }
 }
 
 }  // namespace
@@ -45,11 +68,20 @@ std::string RichTextDocument::PlainText() const {
   return text;
 }
 
-bool IsRichText(std::string_view bytes) { return bytes.substr(0, kMark.size()) == kMark; }
+bool IsRichText(std::string_view bytes) { return BeginsWith(WithoutUtf8Mark(bytes), kMark); }
 
 RichTextDocument ReadRichText(std::string_view bytes) {
-  bytes = bytes.substr(0, kMostBytes);
-  return IsRichText(bytes) ? ReadRichTextGroups(bytes) : PlainLines(bytes);
+  RichTextBody body(RichTextBody::kDocument);
+  const bool isCut = bytes.size() > kMostBytes;
+  if (isCut) body.SetCut();
+  Read(bytes.substr(0, kMostBytes), isCut, body);
+  return body.TakeDocument();
+}
+
+std::string ReadWholeText(std::string_view bytes) {
+  RichTextBody body(RichTextBody::kWholeText);
+  Read(bytes, false, body);
+  return body.TakeText();
 }
 
 }  // namespace logchecker

@@ -1,5 +1,8 @@
 #include "notes/RichTextFormats.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace logchecker {
 
 namespace {
@@ -15,7 +18,10 @@ constexpr size_t kMostTableEntries = 4096;  // of fonts and of colours
 void RichTextFormats::Take(RichTextWord word, int32_t number, bool on) {
   TakeTableWord(word, number);
   TakeCharacterFormat(word, number, on);
-  TakeParagraphFormat(word, number);
+  TakeScript(word, number, on);
+  TakeParagraphFormat(word, number, on);
+  TakeSpacing(word, number, on);
+  TakeTabStop(word, number);
 }
 
 void RichTextFormats::EndColour() {
@@ -73,18 +79,22 @@ void RichTextFormats::TakeTableWord(RichTextWord word, int32_t number) {
 }
 
 void RichTextFormats::TakeCharacterFormat(RichTextWord word, int32_t number, bool on) {
+  TextFormat& format = state.format;
   switch (word) {
     case RichTextWord::kBold:
-      state.bold = on;
+      format.bold = on;
       break;
     case RichTextWord::kItalic:
-      state.italic = on;
+      format.italic = on;
       break;
     case RichTextWord::kUnderline:
-      state.underline = on;
+      format.underline = on;
       break;
     case RichTextWord::kNoUnderline:
-      state.underline = false;
+      format.underline = false;
+      break;
+    case RichTextWord::kStrike:
+      format.strike = on;
       break;
     case RichTextWord::kHidden:
       state.hidden = on;
@@ -94,27 +104,66 @@ void RichTextFormats::TakeCharacterFormat(RichTextWord word, int32_t number, boo
       if (state.destination == GroupState::kFonts) *FontInHand() = FontEntry();
       break;
     case RichTextWord::kFontSize:
-      if (number > 0 && number <= kMostHalfPoints) state.halfPoints = number;
+      if (number > 0 && number <= kMostHalfPoints) format.halfPoints = number;
       break;
     case RichTextWord::kColour:
       state.colour = number;
       break;
+    case RichTextWord::kHighlight:
+      state.highlight = number;
+      break;
     case RichTextWord::kPlain:
-      state.bold = state.italic = state.underline = state.hidden = false;
+      format = TextFormat();
+      state.hidden = false;
       state.font = defaultFont_;
-      state.halfPoints = kDefaultHalfPoints;
-      state.colour = 0;
+      state.colour = state.highlight = 0;
       break;
     default:
       break;
   }
 }
 
-void RichTextFormats::TakeParagraphFormat(RichTextWord word, int32_t number) {
+// Above and below the line, and capitals.
+void RichTextFormats::TakeScript(RichTextWord word, int32_t number, bool on) {
+  constexpr int32_t kUsualRaise = 6;  // half-points
+  TextFormat& format = state.format;
+  switch (word) {
+    case RichTextWord::kSuper:
+      format.script = on ? TextScript::kSuper : TextScript::kNormal;
+      break;
+    case RichTextWord::kSub:
+      format.script = on ? TextScript::kSub : TextScript::kNormal;
+      break;
+    case RichTextWord::kNoScript:
+      format.script = TextScript::kNormal;
+      break;
+    case RichTextWord::kUp:
+    case RichTextWord::kDown: {
+      const int32_t raise =
+          std::clamp(on && number == 0 ? kUsualRaise : number, 0, kMostHalfPoints);
+      format.raise = word == RichTextWord::kUp ? raise : -raise;
+      break;
+    }
+    case RichTextWord::kCaps:
+      format.caps = on ? TextCaps::kAll : TextCaps::kNone;
+      break;
+    case RichTextWord::kSmallCaps:
+      format.caps = on ? TextCaps::kSmall : TextCaps::kNone;
+      break;
+    default:
+      break;
+  }
+}
+
+void RichTextFormats::TakeParagraphFormat(RichTextWord word, int32_t number, bool on) {
   TextParagraph& paragraph = state.paragraph;
   switch (word) {
     case RichTextWord::kParagraphDefaults:
       paragraph = TextParagraph();
+      state.nextTab = TabKind::kLeft;
+      break;
+    case RichTextWord::kPageBreakBefore:
+      paragraph.pageBreakBefore = on;
       break;
     case RichTextWord::kAlignLeft:
       paragraph.alignment = TextAlignment::kLeft;
@@ -142,6 +191,55 @@ void RichTextFormats::TakeParagraphFormat(RichTextWord word, int32_t number) {
   }
 }
 
+void RichTextFormats::TakeSpacing(RichTextWord word, int32_t number, bool on) {
+  TextParagraph& paragraph = state.paragraph;
+  switch (word) {
+    case RichTextWord::kSpaceBefore:
+      paragraph.spaceBefore = number;
+      break;
+    case RichTextWord::kSpaceAfter:
+      paragraph.spaceAfter = number;
+      break;
+    case RichTextWord::kLineSpacing:
+      // No number, or none but 0, is a single line, whether or not it is a multiple.
+      paragraph.lineSpacing = number == 0 ? kSingleLine : number;
+      paragraph.lineSpacingIsMultiple = number == 0;
+      break;
+    case RichTextWord::kLineMultiple:
+      paragraph.lineSpacingIsMultiple = on || paragraph.lineSpacing == kSingleLine;
+      break;
+    default:
+      break;
+  }
+}
+
+// The kind of a stop stands before its position.
+void RichTextFormats::TakeTabStop(RichTextWord word, int32_t number) {
+  std::vector<TextTab>& tabs = state.paragraph.tabs;
+  switch (word) {
+    case RichTextWord::kTabRight:
+      state.nextTab = TabKind::kRight;
+      break;
+    case RichTextWord::kTabCentre:
+      state.nextTab = TabKind::kCentre;
+      break;
+    case RichTextWord::kTabDecimal:
+      state.nextTab = TabKind::kDecimal;
+      break;
+    case RichTextWord::kTabStop: {
+      const TextTab tab = {number, std::exchange(state.nextTab, TabKind::kLeft)};
+      if (number <= 0 || tabs.size() >= kMostTabStops) break;
+      const auto place = std::upper_bound(
+          tabs.begin(), tabs.end(), tab,
+          [](const TextTab& a, const TextTab& b) { return a.position < b.position; });
+      tabs.insert(place, tab);
+      break;
+    }
+    default:
+      break;
+  }
+}
+
 FontEntry* RichTextFormats::FontInHand() {
   if (fonts_.size() >= kMostTableEntries && fonts_.count(state.font) == 0) return &overflow_;
   return &fonts_[state.font];
@@ -153,17 +251,18 @@ int32_t RichTextFormats::CodePageInForce() const {
   return own ? font->second.codePage : codePage_;
 }
 
-TextRun RichTextFormats::RunInForce() const {
-  TextRun run;
+int32_t RichTextFormats::ColourOf(int32_t index) const {
+  const auto entry = static_cast<size_t>(index);
+  return index >= 0 && entry < colours_.size() ? colours_[entry] : kAutomaticColour;
+}
+
+TextFormat RichTextFormats::FormatInForce() const {
+  TextFormat format = state.format;
   const auto font = fonts_.find(state.font);
-  if (font != fonts_.end()) run.fontName = font->second.name;
-  run.halfPoints = state.halfPoints;
-  run.bold = state.bold;
-  run.italic = state.italic;
-  run.underline = state.underline;
-  const auto colour = static_cast<size_t>(state.colour);
-  if (state.colour >= 0 && colour < colours_.size()) run.colour = colours_[colour];
-  return run;
+  if (font != fonts_.end()) format.fontName = font->second.name;
+  format.colour = ColourOf(state.colour);
+  format.highlight = ColourOf(state.highlight);
+  return format;
 }
 
 }  // namespace logchecker

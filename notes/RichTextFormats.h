@@ -19,18 +19,17 @@ struct FontEntry {
 
 // What a group keeps and its end brings back.
 struct GroupState {
-  enum Destination { kBody, kFonts, kColours, kSkipped };
+  enum Destination { kBody, kFonts, kColours, kPicture, kSkipped };
 
   Destination destination = kBody;
   int32_t font = 0;
-  int32_t halfPoints = kDefaultHalfPoints;
-  int32_t colour = 0;  // index into the table
-  bool bold = false;
-  bool italic = false;
-  bool underline = false;
+  int32_t colour = 0;     // index into the table
+  int32_t highlight = 0;  // the same
   bool hidden = false;
+  TextFormat format;  // its font's name and colours are to be looked up
   int32_t unicodeSkip = 1;
   TextParagraph paragraph;  // its runs stay empty
+  TabKind nextTab = TabKind::kLeft;
 };
 
 class RichTextFormats {
@@ -48,15 +47,18 @@ class RichTextFormats {
   int32_t DocumentCodePage() const { return codePage_; }
   // That of the font that is set, or else the document's.
   int32_t CodePageInForce() const;
-  // An empty run in the format that is set.
-  TextRun RunInForce() const;
+  TextFormat FormatInForce() const;
 
   GroupState state;
 
  private:
   void TakeTableWord(RichTextWord word, int32_t number);
   void TakeCharacterFormat(RichTextWord word, int32_t number, bool on);
-  void TakeParagraphFormat(RichTextWord word, int32_t number);
+  void TakeScript(RichTextWord word, int32_t number, bool on);
+  void TakeParagraphFormat(RichTextWord word, int32_t number, bool on);
+  void TakeSpacing(RichTextWord word, int32_t number, bool on);
+  void TakeTabStop(RichTextWord word, int32_t number);
+  int32_t ColourOf(int32_t index) const;
 
   int32_t codePage_ = kWesternCodePage;
   int32_t defaultFont_ = 0;

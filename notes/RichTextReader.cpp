@@ -1,37 +1,63 @@
 #include "notes/RichTextReader.h"
 
+#include <string>
 #include <utility>
+#include <vector>
 
 #include "notes/CodePages.h"
+#include "notes/PictureReader.h"
 #include "notes/RichTextFormats.h"
+#include "notes/RichTextRow.h"
 #include "notes/RichTextTokens.h"
 #include "notes/RichTextWords.h"
+#include "notes/Utf8.h"
 
 namespace logchecker {
 
 namespace {
 
 constexpr size_t kLongestFontName = 200;
-constexpr size_t kCostOfRun = 20;  // characters
-constexpr size_t kCostOfParagraph = 40;
+
+// Groups that are read though a star asks readers that don't know them to pass them over.
+bool IsReadWithStar(RichTextWord word) {
+  return word == RichTextWord::kFontTable || word == RichTextWord::kColourTable ||
+         word == RichTextWord::kShownGroup;
+}
 
 class RichTextReader {
  public:
-  explicit RichTextReader(std::string_view bytes) : tokens_(bytes) {}
+  RichTextReader(std::string_view bytes, RichTextBody& body) : tokens_(bytes), body_(body) {}
 
-  RichTextDocument Read() {
-    for (RichTextToken token = tokens_.Next(); token.kind != RichTextToken::kEnd;
-         token = tokens_.Next()) {
+  void Read() {
+    while (!body_.IsFull()) {
+      TakePlain();
+      const RichTextToken token = tokens_.Next();
+      if (token.kind == RichTextToken::kEnd) break;
       Take(token);
-      if (characters_ >= kMostCharacters) break;
     }
+    FlushBytes();
+    // Its group's end has brought back another format than it was written in.
+    const TextParagraph last = lastFormat_;
     FlushSurrogate();
-    if (!current_.runs.empty()) EndParagraph();
-    return std::move(document_);
+    if (body_.HasParagraph()) EndParagraph(last, false);
   }
 
  private:
+  // Text that means itself in every code page is taken in one.
+  void TakePlain() {
+    const bool inBody = formats_.state.destination == GroupState::kBody;
+    const bool skipped = formats_.state.destination == GroupState::kSkipped;
+    if ((!inBody && !skipped) || skip_ > 0 || tooDeep_ > 0 || decoder_.HasBegun()) return;
+    const std::string_view text = tokens_.Plain();
+    if (text.empty()) return;
+    starred_ = false;
+    if (skipped || formats_.state.hidden) return;
+    FlushSurrogate();
+    body_.AppendText(text, FormatInForce());
+  }
+
   void Take(const RichTextToken& token) {
+    if (decoder_.HasBegun() && token.kind != RichTextToken::kByte) FlushBytes();
     switch (token.kind) {
       case RichTextToken::kOpen:
         OpenGroup();
@@ -63,7 +89,10 @@ class RichTextReader {
     starred_ = false;
     if (stack_.size() < kDeepestGroup) {
       stack_.push_back(formats_.state);
+    } else if (body_.IsForText()) {
+      deeper_ += static_cast<char>(formats_.state.destination << 1U | int{formats_.state.hidden});
     } else {
+      body_.SetCut();
       ++tooDeep_;
     }
   }
@@ -75,28 +104,62 @@ class RichTextReader {
       --tooDeep_;
       return;
     }
+    if (!deeper_.empty()) {
+      formats_.state.destination = static_cast<GroupState::Destination>(deeper_.back() >> 1U);
+      formats_.state.hidden = (deeper_.back() & 1) != 0;
+      deeper_.pop_back();
+      return;
+    }
     if (stack_.empty()) return;
+    const bool inPicture = formats_.state.destination == GroupState::kPicture;
     formats_.state = std::move(stack_.back());
     stack_.pop_back();
+    stale_ = true;
+    if (inPicture && formats_.state.destination != GroupState::kPicture) EndPicture();
+  }
+
+  void EndPicture() {
+    std::optional<TextPicture> picture = picture_.End();
+    if (!picture || formats_.state.hidden) return;
+    FlushSurrogate();
+    body_.AppendPicture(std::move(*picture), FormatInForce());
   }
 
   void TakeByte(unsigned char byte) {
     switch (formats_.state.destination) {
       case GroupState::kFonts:
-        if (byte == ';') return;
-        if (FontEntry* font = formats_.FontInHand(); font->name.size() < kLongestFontName) {
-          AppendUtf8(font->name, CodePointOf(byte, formats_.DocumentCodePage()));
-        }
+        if (byte == ';' && !decoder_.HasBegun()) return;
+        AddToFontName(decoder_.Take(byte, formats_.DocumentCodePage()));
         return;
       case GroupState::kColours:
         if (byte == ';') formats_.EndColour();
         return;
       case GroupState::kBody:
-        AddCharacter(CodePointOf(byte, formats_.CodePageInForce()));
+        AddCharacters(decoder_.Take(byte, CodePageInForce()));
+        return;
+      case GroupState::kPicture:
+        picture_.TakeDigit(byte);
         return;
       case GroupState::kSkipped:
         return;
     }
+  }
+
+  void AddToFontName(const std::u32string& characters) {
+    FontEntry* font = formats_.FontInHand();
+    for (const char32_t character : characters) {
+      if (font->name.size() < kLongestFontName) AppendUtf8(font->name, character);
+    }
+    stale_ = true;
+  }
+
+  void AddCharacters(const std::u32string& characters) {
+    for (const char32_t character : characters) AddCharacter(character);
+  }
+
+  void FlushBytes() {
+    const std::u32string& characters = decoder_.End();
+    if (formats_.state.destination == GroupState::kBody) AddCharacters(characters);
   }
 
   void TakeSymbol(char symbol) {
@@ -117,7 +180,7 @@ class RichTextReader {
         break;
       case '\r':
       case '\n':
-        if (formats_.state.destination == GroupState::kBody) EndParagraph();
+        EndParagraphInBody(false);
         break;
       default:
         break;
@@ -127,51 +190,101 @@ class RichTextReader {
   void TakeWord(const RichTextToken& token) {
     const RichTextMeaning meaning = MeaningOf(token.word);
     const int32_t number = token.number.value_or(0);
-    const bool on = token.number.value_or(1) != 0;
-    if (starred_ && meaning.word != RichTextWord::kFontTable &&
-        meaning.word != RichTextWord::kColourTable) {
-      formats_.state.destination = GroupState::kSkipped;
+    GroupState& state = formats_.state;
+    if (starred_ && !IsReadWithStar(meaning.word)) state.destination = GroupState::kSkipped;
+    if (state.destination == GroupState::kSkipped) return;
+    if (TakeDestination(meaning.word)) return;
+    if (state.destination == GroupState::kPicture) {
+      picture_.Take(meaning.word, number);
+      if (meaning.word == RichTextWord::kBinary) picture_.TakeBinary(token.data);
+      return;
     }
-    if (formats_.state.destination == GroupState::kSkipped) return;
     switch (meaning.word) {
-      case RichTextWord::kSkippedGroup:
-        formats_.state.destination = GroupState::kSkipped;
-        break;
       case RichTextWord::kCharacter:
         AddCharacter(meaning.character);
         break;
-      case RichTextWord::kFontTable:
-        formats_.state.destination = GroupState::kFonts;
-        break;
-      case RichTextWord::kColourTable:
-        formats_.state.destination = GroupState::kColours;
-        break;
-      case RichTextWord::kParagraphEnd:
-        EndParagraphInBody();
-        break;
-      case RichTextWord::kCellEnd:
-        AddCharacter('\t');
-        break;
-      case RichTextWord::kRowEnd:
-        DropLastTab();
-        EndParagraphInBody();
-        break;
       case RichTextWord::kUnicode:
         AddUnicode(number);
-        skip_ = formats_.state.unicodeSkip;
+        skip_ = state.unicodeSkip;
         break;
       case RichTextWord::kUnicodeSkip:
-        formats_.state.unicodeSkip = number < 0 ? 0 : number;
+        state.unicodeSkip = number < 0 ? 0 : number;
+        break;
+      case RichTextWord::kTabDistance:
+        body_.SetTabDistance(number);
         break;
       default:
-        formats_.Take(meaning.word, number, on);
+        TakeEnd(meaning.word);
+        row_.Take(meaning.word, number);
+        formats_.Take(meaning.word, number, token.number.value_or(1) != 0);
+        stale_ = true;
         break;
     }
   }
 
-  static bool SameFormat(const TextRun& a, const TextRun& b) {
-    return a.bold == b.bold && a.italic == b.italic && a.underline == b.underline &&
-           a.halfPoints == b.halfPoints && a.colour == b.colour && a.fontName == b.fontName;
+  // Whether the word says what its group is for.
+  bool TakeDestination(RichTextWord word) {
+    GroupState& state = formats_.state;
+    switch (word) {
+      case RichTextWord::kSkippedGroup:
+        state.destination = GroupState::kSkipped;
+        return true;
+      case RichTextWord::kShownGroup:
+        return true;
+      case RichTextWord::kFontTable:
+        state.destination = GroupState::kFonts;
+        return true;
+      case RichTextWord::kColourTable:
+        state.destination = GroupState::kColours;
+        return true;
+      case RichTextWord::kPicture:
+        if (state.destination == GroupState::kPicture) return true;
+        picture_.Begin();
+        state.destination =
+            state.destination == GroupState::kBody ? GroupState::kPicture : GroupState::kSkipped;
+        return true;
+      default:
+        return false;
+    }
+  }
+
+  // Of a paragraph, a cell, a row or a page.
+  void TakeEnd(RichTextWord word) {
+    switch (word) {
+      case RichTextWord::kParagraphEnd:
+        EndParagraphInBody(false);
+        break;
+      case RichTextWord::kPageBreak:
+        EndParagraphInBody(false);
+        pageBreak_ = true;
+        break;
+      case RichTextWord::kCellEnd:
+        AddCharacter('\t');
+        row_.EndCell();
+        break;
+      case RichTextWord::kRowEnd:
+        body_.DropLastTab();
+        EndParagraphInBody(true);
+        row_.EndRow();
+        break;
+      default:
+        break;
+    }
+  }
+
+  int32_t CodePageInForce() {
+    FormatInForce();
+    return codePage_;
+  }
+
+  // Looked up again where a word or a group's end may have changed it.
+  const TextFormat& FormatInForce() {
+    if (std::exchange(stale_, false)) {
+      format_ = formats_.FormatInForce();
+      codePage_ = formats_.CodePageInForce();
+      lastFormat_ = formats_.state.paragraph;
+    }
+    return format_;
   }
 
   void AddCharacter(char32_t codePoint) {
@@ -182,13 +295,7 @@ class RichTextReader {
   void Append(char32_t codePoint) {
     const bool control = codePoint < 0x20 && codePoint != '\t' && codePoint != '\n';
     if (formats_.state.destination != GroupState::kBody || formats_.state.hidden || control) return;
-    ++characters_;
-    const TextRun run = formats_.RunInForce();
-    if (current_.runs.empty() || !SameFormat(current_.runs.back(), run)) {
-      current_.runs.push_back(run);
-      characters_ += kCostOfRun;
-    }
-    AppendUtf8(current_.runs.back().text, codePoint);
+    body_.Append(codePoint, FormatInForce());
   }
 
   // Numbers above 32767 are written as negative ones, and those above 65535 as a pair.
@@ -204,6 +311,7 @@ class RichTextReader {
     }
     FlushSurrogate();
     if (high) {
+      FormatInForce();
       surrogate_ = unit;
     } else {
       Append(unit);
@@ -214,39 +322,42 @@ class RichTextReader {
     if (surrogate_ != 0) Append(std::exchange(surrogate_, 0));
   }
 
-  void DropLastTab() {
-    if (current_.runs.empty()) return;
-    std::string& text = current_.runs.back().text;
-    if (!text.empty() && text.back() == '\t') text.pop_back();
-    if (text.empty()) current_.runs.pop_back();
-  }
-
-  void EndParagraphInBody() {
-    if (formats_.state.destination == GroupState::kBody) EndParagraph();
-  }
-
-  void EndParagraph() {
+  void EndParagraphInBody(bool endsRow) {
+    if (formats_.state.destination != GroupState::kBody) return;
     FlushSurrogate();
-    characters_ += kCostOfParagraph;
-    TextParagraph paragraph = formats_.state.paragraph;
-    paragraph.runs = std::exchange(current_.runs, {});
-    document_.paragraphs.push_back(std::move(paragraph));
+    EndParagraph(formats_.state.paragraph, endsRow);
+  }
+
+  void EndParagraph(const TextParagraph& paragraph, bool endsRow) {
+    TextParagraph format = row_.FormatOf(paragraph, endsRow);
+    if (std::exchange(pageBreak_, false)) format.pageBreakBefore = true;
+    body_.EndParagraph(format);
   }
 
   RichTextTokens tokens_;
-  RichTextDocument document_;
-  TextParagraph current_;
+  RichTextBody& body_;
   RichTextFormats formats_;
   std::vector<GroupState> stack_;
-  size_t tooDeep_ = 0;  // groups beyond the deepest that keep a state
+  ByteDecoder decoder_;
+  PictureReader picture_;
+  RichTextRow row_;
+  TextFormat format_;  // in force, unless it is stale
+  int32_t codePage_ = 0;
+  bool stale_ = true;
+  TextParagraph lastFormat_;  // of the paragraph that it was looked up in
+  size_t tooDeep_ = 0;        // groups beyond the deepest that keep a state, which are passed over
+  // Of such groups where all text is wanted: what is read, and whether it is hidden.
+  std::string deeper_;
   bool starred_ = false;
+  bool pageBreak_ = false;  // before the paragraph in hand
   int32_t skip_ = 0;
   char32_t surrogate_ = 0;  // the first half of a pair
-  size_t characters_ = 0;
 };
 
 }  // namespace
 
-RichTextDocument ReadRichTextGroups(std::string_view bytes) { return RichTextReader(bytes).Read(); }
+void ReadRichTextGroups(std::string_view bytes, RichTextBody& body) {
+  RichTextReader(bytes, body).Read();
+}
 
 }  // namespace logchecker

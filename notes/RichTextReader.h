@@ -3,11 +3,11 @@
 
 #include <string_view>
 
-#include "notes/RichText.h"
+#include "notes/RichTextBody.h"
 
 namespace logchecker {
 
 // `bytes` begin with the mark of rich text.
-RichTextDocument ReadRichTextGroups(std::string_view bytes);
+void ReadRichTextGroups(std::string_view bytes, RichTextBody& body);
 
 }  // namespace logchecker

@@ -12,14 +12,14 @@ constexpr int32_t kGreatestNumber = 200000000;
 bool IsLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-int DigitOf(char c) {
+}  // namespace
+
+int HexDigit(char c) {
   if (IsDigit(c)) return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
   if (c >= 'A' && c <= 'F') return c - 'A' + 10;
   return -1;
 }
-
-}  // namespace
 
 RichTextToken RichTextTokens::Next() {
   while (!AtEnd() && (bytes_[place_] == '\r' || bytes_[place_] == '\n')) ++place_;
@@ -34,6 +34,15 @@ RichTextToken RichTextTokens::Next() {
   return token;
 }
 
+std::string_view RichTextTokens::Plain() {
+  const auto isPlain = [](char c) {
+    return c >= ' ' && c <= '~' && c != '\\' && c != '{' && c != '}';
+  };
+  const size_t begin = place_;
+  while (!AtEnd() && isPlain(bytes_[place_])) ++place_;
+  return bytes_.substr(begin, place_ - begin);
+}
+
 RichTextToken RichTextTokens::NextControl() {
   RichTextToken token;
   if (AtEnd()) return token;
@@ -41,8 +50,8 @@ RichTextToken RichTextTokens::NextControl() {
   if (IsLetter(c)) return NextWord();
   ++place_;
   if (c == '\'' && place_ + 1 < bytes_.size()) {
-    const int high = DigitOf(bytes_[place_]);
-    const int low = DigitOf(bytes_[place_ + 1]);
+    const int high = HexDigit(bytes_[place_]);
+    const int low = HexDigit(bytes_[place_ + 1]);
     if (high >= 0 && low >= 0) {
       place_ += 2;
       token.kind = RichTextToken::kByte;
@@ -65,7 +74,8 @@ RichTextToken RichTextTokens::NextWord() {
   // One blank belongs to the word.
   if (!AtEnd() && bytes_[place_] == ' ') ++place_;
   if (token.word == "bin" && token.number && *token.number > 0) {
-    place_ += std::min(static_cast<size_t>(*token.number), bytes_.size() - place_);
+    token.data = bytes_.substr(place_, static_cast<size_t>(*token.number));
+    place_ += token.data.size();
   }
   return token;
 }

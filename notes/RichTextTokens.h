@@ -8,6 +8,9 @@
 
 namespace logchecker {
 
+// The value of a hexadecimal digit; -1 where it is none.
+int HexDigit(char c);
+
 struct RichTextToken {
   enum Kind {
     kEnd,
@@ -22,6 +25,7 @@ struct RichTextToken {
   unsigned char byte = 0;         // of a byte or a symbol
   std::string_view word;          // without the backslash
   std::optional<int32_t> number;  // behind the word; held to its type
+  std::string_view data;          // of \bin, as it stands in the file
 };
 
 class RichTextTokens {
@@ -29,8 +33,10 @@ class RichTextTokens {
   // `bytes` must outlive the object.
   explicit RichTextTokens(std::string_view bytes) : bytes_(bytes) {}
 
-  // Line ends of the file are passed over, and the data of \bin with its word.
+  // Line ends of the file are passed over, and the data of \bin comes with its word.
   RichTextToken Next();
+  // The printable ASCII from here to the next control or group.
+  std::string_view Plain();
 
  private:
   RichTextToken NextControl();

@@ -8,6 +8,7 @@ namespace logchecker {
 enum class RichTextWord {
   kUnknown,
   kSkippedGroup,  // a destination whose group is passed over
+  kShownGroup,    // a destination whose group is read like any other
   kCharacter,     // stands for one character
   kFontTable,
   kColourTable,
@@ -43,6 +44,40 @@ enum class RichTextWord {
   kRed,
   kGreen,
   kBlue,
+  kStrike,
+  kHighlight,
+  kSuper,
+  kSub,
+  kNoScript,
+  kUp,
+  kDown,
+  kCaps,
+  kSmallCaps,
+  kSpaceBefore,
+  kSpaceAfter,
+  kLineSpacing,
+  kLineMultiple,
+  kPageBreak,
+  kPageBreakBefore,
+  kTabStop,
+  kTabRight,
+  kTabCentre,
+  kTabDecimal,
+  kTabDistance,
+  kRowDefaults,
+  kCellEdge,
+  kRowLeft,
+  kRowGap,
+  kPicture,
+  kPng,
+  kJpeg,
+  kBitmap,
+  kOtherPicture,  // of a kind that is not shown
+  kPictureWidth,
+  kPictureHeight,
+  kPictureScaleX,
+  kPictureScaleY,
+  kBinary,
 };
 
 struct RichTextMeaning {

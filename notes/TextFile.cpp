@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/Platform.h"
+#include "platform/StationText.h"
 
 namespace logchecker {
 
@@ -48,6 +49,17 @@ int32_t WriteTextFile(const std::string& path, const std::string& bytes) {
     return error;
   }
   return files.Close(number);
+}
+
+std::string PlainTextFile(std::string_view utf8) {
+  std::string lines;
+  lines.reserve(utf8.size());
+  for (const char c : utf8) {
+    if (c == '\n') lines += '\r';
+    lines += c;
+  }
+  std::string stationText;
+  return FromUtf8(lines, &stationText) ? stationText : "\xEF\xBB\xBF" + lines;
 }
 
 }  // namespace logchecker

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace logchecker {
 
@@ -12,5 +13,9 @@ bool ReadTextFile(const std::string& path, size_t most, std::string* bytes);
 
 // Writes the file whole or not at all. Returns an error number.
 int32_t WriteTextFile(const std::string& path, const std::string& bytes);
+
+// A plain text file of this text: its line feeds as CR LF, in station text, or where that can't
+// hold it in UTF-8 with its mark.
+std::string PlainTextFile(std::string_view utf8);
 
 }  // namespace logchecker

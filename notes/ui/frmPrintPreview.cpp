@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QTextDocumentFragment>
 #include <algorithm>
 #include <iterator>
 
@@ -21,8 +20,6 @@
 #include "dialogs/ui/SaveDialog.h"
 #include "notes/RichText.h"
 #include "notes/TextFile.h"
-#include "notes/ui/PrintNote.h"
-#include "notes/ui/RichTextView.h"
 #include "platform/HostPaths.h"
 #include "printing/PrintCanvas.h"
 #include "printing/ui/PrinterChoice.h"
@@ -34,6 +31,8 @@ namespace {
 
 constexpr int kTop = 30;  // twips
 constexpr QSize kDesignSize{520, 420};
+// All of a file's text is in memory, a few times over, while it is saved.
+constexpr size_t kMostSaved = size_t{64} * 1024 * 1024;  // bytes
 
 // Page down and up, home, end, the arrows, execute, enter, and the buttons' letters stay here.
 constexpr int32_t kOwnKeys[] = {34, 33, 36, 35, 38, 37, 40, 39, 43, 13, 80, 83, 79};
@@ -100,12 +99,31 @@ void frmPrintPreview::LoadFile(const std::string& fileName) {
   fileName_ = fileName;
   if (!fileName_.empty()) {
     ui_->rtfFile->clear();
-    std::string bytes;
-    if (GetFileLength(fileName_) >= 0 && ReadTextFile(fileName_, kMostBytes, &bytes)) {
-      ShowTextFile(*ui_->rtfFile, bytes);
-    }
+    text_.clear();
+    SayCut(false);
+    if (GetFileLength(fileName_) >= 0) ShowFile();
   }
   ui_->rtfFile->moveCursor(QTextCursor::Start);
+}
+
+void frmPrintPreview::ShowFile() {
+  std::string bytes;
+  // A byte more tells that there is more.
+  if (!ReadTextFile(fileName_, kMostBytes + 1, &bytes)) return;
+  const RichTextDocument note = ReadRichText(bytes);
+  text_ = note.PlainText();
+  SayCut(!ui_->rtfFile->ShowNote(note, IsRichText(bytes)));
+}
+
+void frmPrintPreview::SayCut(bool cut) {
+  cut_ = cut;
+  const bool saved = !cut || GetFileLength(fileName_) <= static_cast<double>(kMostSaved);
+  ui_->cmdSave->setEnabled(saved);
+  ui_->lblCut->setText(saved ? "This note is too large: a part of it is not shown. Save writes all "
+                               "of its text."
+                             : "This note is too large: a part of it is not shown, and it can't be "
+                               "saved from here.");
+  ui_->lblCut->setVisible(cut);
 }
 
 void frmPrintPreview::OnPrint() {
@@ -114,11 +132,10 @@ void frmPrintPreview::OnPrint() {
       AskForPrinter(this, {windowTitle(), anySelected, JobKind::kNote});
   if (!choice) return;
   if (!choice->selectionOnly) ui_->rtfFile->moveCursor(QTextCursor::Start);
-  QTextCursor source = ui_->rtfFile->textCursor();
-  if (!source.hasSelection()) source.select(QTextCursor::Document);
   const std::string name = GetFileNamePart(fileName_);
   try {
-    PrintNote(source.selection(), *choice->printer, name.empty() ? windowTitle() : ToQString(name));
+    ui_->rtfFile->PrintNote(*choice->printer, name.empty() ? windowTitle() : ToQString(name),
+                            choice->selectionOnly);
   } catch (const PrintError& error) {
     gErrorState = {error.number(), error.what()};
     ShowErrorMessage("while printing.", error.number(), false);
@@ -127,17 +144,21 @@ void frmPrintPreview::OnPrint() {
 
 void frmPrintPreview::OnSave() {
   SaveDialog dialog(this, "Select File to Save to", {{"All Files", "*"}}, "", "");
-  dialog.SetOverwritePrompt(false);
+  // Without a word, but where the file gets more than there is to see.
+  dialog.SetOverwritePrompt(cut_);
   const std::optional<std::string> file = dialog.Ask("*.*");
   if (file && !Trim(GetFileNamePart(*file)).empty()) SaveAs(*file);
 }
 
 // As plain text, without a word whatever comes of it.
-void frmPrintPreview::SaveAs(const std::string& file) {
-  // The box's own plain text would turn blanks that don't break into others.
-  QString text = ui_->rtfFile->document()->toRawText();
-  text.replace(QChar::ParagraphSeparator, "\r\n").replace(QChar::LineSeparator, "\r\n");
-  WriteTextFile(file, FromQString(text));
+void frmPrintPreview::SaveAs(const std::string& file) const {
+  if (!cut_) {
+    WriteTextFile(file, PlainTextFile(text_));
+    return;
+  }
+  std::string bytes;
+  const bool whole = ReadTextFile(fileName_, kMostSaved + 1, &bytes) && bytes.size() <= kMostSaved;
+  if (whole) WriteTextFile(file, PlainTextFile(ReadWholeText(bytes)));
 }
 
 bool frmPrintPreview::eventFilter(QObject* watched, QEvent* event) {
@@ -164,6 +185,7 @@ void frmPrintPreview::reject() {
   Owner = nullptr;
   activated_ = 0;
   ui_->rtfFile->clear();
+  text_.clear();
 }
 
 void frmPrintPreview::DisplayFolder(const std::string& folder, const std::string& extension) {

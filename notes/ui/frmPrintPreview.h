@@ -36,7 +36,8 @@ class frmPrintPreview : public QDialog {
   void DisplayFolder(const std::string& folder, const std::string& extension);
   void HideFolder();
 
-  // Stores the name and shows the file, rich or plain text; nothing where it is not there.
+  // Stores the name and shows the file, rich or plain text; nothing where it is not there. Where
+  // not all of it can be shown, a line under it says so.
   void LoadFile(const std::string& fileName);
 
   // None at first. Must outlive the window, or be released before.
@@ -52,12 +53,16 @@ class frmPrintPreview : public QDialog {
   void Place();
   void SetOnTop(bool onTop);
   void ListFolder();
+  void ShowFile();
+  void SayCut(bool cut);
   void OnPrint();
   void OnSave();
-  void SaveAs(const std::string& file);
+  void SaveAs(const std::string& file) const;
 
   std::unique_ptr<Ui::frmPrintPreview> ui_;
   std::string fileName_;
+  std::string text_;  // what is shown, as plain text; UTF-8
+  bool cut_ = false;  // the file has more than is shown
   std::string folder_;
   std::string extension_;
   int16_t activated_ = 0;  // the first activation has been handled

@@ -57,7 +57,7 @@ TEST(RichTextTest, CodePagesOfTheDocumentAndOfItsFonts) {
       {"Turkish font", "{\\fonttbl{\\f1\\fcharset162 B;}}\\f1\\'fd", "\xC4\xB1"},
       {"Thai font", "{\\fonttbl{\\f1\\fcharset222 B;}}\\f1\\'a1", "\xE0\xB8\x81"},
       {"a font's code page", "{\\fonttbl{\\f1\\cpg866 B;}}\\f1\\'80", "\xD0\x90"},
-      {"an unknown page is western", "\\ansicpg932 \\'e9", "\xC3\xA9"},
+      {"an unknown page is western", "\\ansicpg12345 \\'e9", "\xC3\xA9"},
       {"broken hexadecimal", "a\\'zzb", "azzb"},
   };
   for (const PlainCase& row : cases) EXPECT_EQ(PlainOf(row.body), row.text) << row.feature;
@@ -91,6 +91,8 @@ TEST(RichTextTest, TablesListsFieldsAndWhatIsPassedOver) {
        "\xE2\x80\xA2\tone\n2.\ttwo"},
       {"fields", "a{\\field{\\*\\fldinst HYPERLINK \"x\"}{\\fldrslt link}}b", "alinkb"},
       {"pictures", "a{\\pict\\pngblip 89504e470d}b", "ab"},
+      {"an older copy of a picture", "a{\\nonshppict{\\pict\\pngblip 00ff}old}b", "ab"},
+      {"what another program left", "a{\\private text}b", "ab"},
       {"shape pictures", "a{\\*\\shppict{\\pict 00ff}}{\\nonshppict{\\pict 00}}b", "ab"},
       {"binary data", "a{\\pict\\bin5 }}}}}x}b", "ab"},
       {"objects show their result", "a{\\object{\\*\\objdata 0105}{\\result r}}b", "arb"},
@@ -229,6 +231,17 @@ TEST(RichTextTest, ParagraphsHaveAlignmentAndIndents) {
   EXPECT_EQ(document.paragraphs[2].firstLineIndent, -360);
   EXPECT_EQ(document.paragraphs[3].alignment, TextAlignment::kLeft);
   EXPECT_EQ(document.paragraphs[3].leftIndent, 0);
+}
+
+TEST(RichTextTest, ALastParagraphWithoutItsEndKeepsItsFormat) {
+  for (const char* body :
+       {"a\\par\\pard\\qr\\li720 last", "a\\par{\\pard\\qr\\li720 last}",
+        "a\\par{{\\qr\\li720 la}{\\qr\\li720\\b st}}", "a\\par\\pard{\\qr\\li720 las\\u-10179?}"}) {
+    const RichTextDocument document = ReadRichText(Doc(body));
+    ASSERT_EQ(document.paragraphs.size(), 2U) << body;
+    EXPECT_EQ(document.paragraphs[1].alignment, TextAlignment::kRight) << body;
+    EXPECT_EQ(document.paragraphs[1].leftIndent, 720) << body;
+  }
 }
 
 TEST(RichTextTest, WhatIsNoRichTextIsPlainText) {

@@ -1,5 +1,8 @@
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPrintDialog>
@@ -13,6 +16,7 @@
 #include <functional>
 
 #include "common/ErrorState.h"
+#include "notes/RichText.h"
 #include "notes/ui/frmPrintPreview.h"
 #include "platform/HostPaths.h"
 #include "platform/Platform.h"
@@ -277,6 +281,91 @@ TEST_F(PrintPreviewTest, ASaveThatFailsLeavesTheOldFileAndSaysNothing) {
   SaveUnder(HostName("copy.txt"));
   EXPECT_EQ(folder().ReadFile("copy.txt"), "old");
   EXPECT_TRUE(ui.messages.empty());
+}
+
+TEST_F(PrintPreviewTest, ACopyOfWhatTheCodePageCantHoldIsUnicode) {
+  folder().WriteFile("note.txt", "\xFF\xFE\xE5\x65");
+  Open(Path("note.txt"));
+  SaveUnder(HostName("copy.txt"));
+  EXPECT_EQ(folder().ReadFile("copy.txt"), "\xEF\xBB\xBF\xE6\x97\xA5");
+}
+
+// A note of which the last part is nested too deeply to be shown.
+std::string DeepNote() {
+  return "{\\rtf1 shown" + std::string(kDeepestGroup, '{') + " deep" +
+         std::string(kDeepestGroup + 1, '}');
+}
+
+TEST_F(PrintPreviewTest, ANoteThatIsNotShownWholeSaysSo) {
+  Open(Path("note.rtf"));
+  const auto* label = Control<QLabel>(&preview, "lblCut");
+  EXPECT_FALSE(label->isVisible());
+  folder().WriteFile("deep.rtf", DeepNote());
+  preview.LoadFile(Path("deep.rtf"));
+  EXPECT_TRUE(label->isVisible());
+  EXPECT_TRUE(label->text().startsWith("This note is too large: a part of it is not shown."));
+  EXPECT_EQ(label->textFormat(), Qt::PlainText);
+  EXPECT_TRUE(Control<QPushButton>(&preview, "cmdSave")->isEnabled());
+  preview.LoadFile(Path("note.rtf"));
+  EXPECT_FALSE(label->isVisible());
+}
+
+TEST_F(PrintPreviewTest, ANoteThatIsNotShownWholeIsSavedWholeAndAsksBeforeItReplaces) {
+  folder().WriteFile("deep.rtf", DeepNote());
+  folder().WriteFile("copy.txt", "old");
+  Open(Path("deep.rtf"));
+  EXPECT_EQ(Text(), "shown");
+  for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+    DialogScript script([&](QDialog* dialog) {
+      Control<QLineEdit>(dialog, "fileNameEdit")->setText(HostName("copy.txt"));
+      qobject_cast<QFileDialog*>(dialog)
+          ->findChild<QDialogButtonBox*>()
+          ->button(QDialogButtonBox::Save)
+          ->click();
+      if (dialog->isVisible()) dialog->reject();
+    });
+    script.Answer(answer);
+    Press("cmdSave");
+    ASSERT_EQ(script.Texts().size(), 1);
+    EXPECT_TRUE(script.Texts()[0].startsWith("copy.txt already exists."));
+    EXPECT_EQ(folder().ReadFile("copy.txt"), answer == QMessageBox::Yes ? "shown deep" : "old");
+  }
+}
+
+TEST_F(PrintPreviewTest, ANoteTooLargeToBeSavedSaysThat) {
+  constexpr size_t kMostSaved = size_t{64} * 1024 * 1024;
+  const std::string begin = "{\\rtf1 a{\\info ";
+  const std::string end = "}b}";
+  const std::string filler(kMostSaved - begin.size() - end.size(), 'x');
+  const auto* save = Control<QPushButton>(&preview, "cmdSave");
+  folder().WriteFile("large.rtf", begin + filler + end);
+  preview.LoadFile(Path("large.rtf"));
+  EXPECT_EQ(Text(), "a");
+  EXPECT_TRUE(save->isEnabled());
+  SaveUnder(HostName("copy.txt"));
+  EXPECT_EQ(folder().ReadFile("copy.txt"), "ab");
+  folder().WriteFile("large.rtf", begin + filler + "x" + end);
+  preview.LoadFile(Path("large.rtf"));
+  EXPECT_FALSE(save->isEnabled());
+  EXPECT_TRUE(Control<QLabel>(&preview, "lblCut")->text().contains("can't be saved"));
+  preview.LoadFile(Path("note.rtf"));
+  EXPECT_TRUE(save->isEnabled());
+}
+
+TEST_F(PrintPreviewTest, PagesAreNotOfferedToPickFrom) {
+  Open(Path("note.rtf"));
+  DialogScript script([](QDialog* dialog) {
+    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    ASSERT_NE(printer, nullptr);
+    EXPECT_FALSE(printer->testOption(QAbstractPrintDialog::PrintPageRange));
+    EXPECT_FALSE(printer->testOption(QAbstractPrintDialog::PrintCurrentPage));
+    for (const char* name : {"printRange", "from", "to", "printCurrentPage"}) {
+      const auto* control = printer->findChild<QWidget*>(name);
+      EXPECT_TRUE(control == nullptr || !control->isVisible() || !control->isEnabled()) << name;
+    }
+    printer->reject();
+  });
+  Press("cmdPrint");
 }
 
 class RecordingOwner : public KeyOwner {
