@@ -5,6 +5,8 @@
 
 #include <map>
 
+#include "notes/Utf8.h"
+
 namespace logchecker {
 namespace {
 
