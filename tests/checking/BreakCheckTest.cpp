@@ -79,9 +79,9 @@ TEST_F(BreakCheckTest, AListFileThatWasReplacedSinceTheLoadIsReadAnew) {
   Fill(1, {{"06:00", {1, 1}}});
   Fill(2, {{"06:00", {1}}});
   check.BuildColumns();
-  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 4:00| 2:00")));
+  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 4:00.00| 2:00.00")));
   ReplaceListFile(1, 60.0F);
-  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 2:00| 1:00")));
+  EXPECT_THAT(Check(), ::testing::ElementsAre(::testing::EndsWith("| 2:00.00| 1:00.00")));
 }
 
 TEST_F(BreakCheckTest, WithoutALoadedLogThereIsNoWalkAndNoBusyPointer) {

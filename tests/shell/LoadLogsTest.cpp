@@ -39,10 +39,10 @@ TEST_F(LoadLogsTest, AListFileThatWasReplacedSinceTheLastLoadIsReadAnew) {
   PutCart(1, 30.0F);
   WriteLog(1, kDay, kLog);
   LoadLogs(kDay);
-  EXPECT_EQ(":30", gSplits(1).gridLog.Text(1, kLengthColumn));
+  EXPECT_EQ("  :30", gSplits(1).gridLog.Text(1, kLengthColumn));
   ReplaceListFile(1, 40.0F);
   LoadLogs(kDay);
-  EXPECT_EQ(":40", gSplits(1).gridLog.Text(1, kLengthColumn));
+  EXPECT_EQ("  :40", gSplits(1).gridLog.Text(1, kLengthColumn));
 }
 
 TEST_F(LoadLogsTest, ADayWithoutALogShowsTheOlderOneUnderTheNewDate) {
