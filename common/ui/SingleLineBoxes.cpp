@@ -104,8 +104,8 @@ QAction* PasteEntry(const QMenu& menu) {
 }
 
 // The toolkit's own menu, with an entry to paste that knows the rule.
-bool ShowMenu(QLineEdit& box, const QContextMenuEvent& event) {
-  if (box.contextMenuPolicy() != Qt::DefaultContextMenu) return false;
+bool ShowMenu(const QWidget& watched, QLineEdit& box, const QContextMenuEvent& event) {
+  if (watched.contextMenuPolicy() != Qt::DefaultContextMenu) return false;
   if (qobject_cast<QAbstractSpinBox*>(box.parentWidget()) != nullptr) return false;
   QMenu* menu = box.createStandardContextMenu();
   if (menu == nullptr) return false;
@@ -152,7 +152,8 @@ class Keeper : public QObject {
       case QEvent::InputMethod:
         return TakeInput(watched, static_cast<const QInputMethodEvent&>(event));
       default:
-        return ShowMenu(box, static_cast<const QContextMenuEvent&>(event));
+        return ShowMenu(static_cast<const QWidget&>(watched), box,
+                        static_cast<const QContextMenuEvent&>(event));
     }
   }
 };

@@ -159,6 +159,7 @@ TEST_F(SingleLineBoxesTest, ThePasteKeepsTheBoxesOwnRules) {
   PasteByKey(&box);
   EXPECT_EQ(box.text(), "old") << "the code page holds no snowman";
   box.setMaxLength(4);
+  box.selectAll();
   Copy("1\n2\n3\n4\n5");
   PasteByKey(&box);
   EXPECT_EQ(box.text(), "1234");

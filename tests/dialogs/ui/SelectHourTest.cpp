@@ -415,6 +415,7 @@ TEST_F(SelectHourTest, TheHourIsLeftAloneWhenItGetsTheFocusBack) {
   QWidget other;
   other.show();
   QApplication::setActiveWindow(&other);
+  QApplication::processEvents();
   QApplication::setActiveWindow(&picker);
   QApplication::processEvents();
   EXPECT_TRUE(Hour()->hasFocus());
