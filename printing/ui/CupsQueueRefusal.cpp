@@ -22,7 +22,7 @@ std::string QueueRefusal(const QString& queue) {
   const ipp_status_t outcome = cupsLastError();
   if (outcome < IPP_STATUS_REDIRECTION_OTHER_SITE) return "";
   const char* text = cupsLastErrorString();
-  const std::string why =
+  std::string why =
       text != nullptr ? FromQString(QString::fromUtf8(text)) : ErrorText(kPrinterError);
   // Of a queue that it does not find the library says that a file is missing.
   if (outcome == IPP_STATUS_ERROR_INTERNAL && !IsThere(queue)) return "The printer is not there";

@@ -92,7 +92,7 @@ QByteArray PrintJob::DrawWhole(const PrintedPages& pages) const {
   if (!folder.isValid()) Fail(kPathFileAccess, ErrorText(kPathFileAccess) + ": " + place);
   Draw(paper, pages, PickedPages(chosen_, pages.count));
   QFile drawn(paper.outputFileName());
-  const QByteArray bytes = drawn.open(QIODevice::ReadOnly) ? drawn.readAll() : QByteArray();
+  QByteArray bytes = drawn.open(QIODevice::ReadOnly) ? drawn.readAll() : QByteArray();
   if (!IsWholePdf(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())))) {
     Fail(kDiskFull, ErrorText(kDiskFull) + ": " + place);
   }
