@@ -25,6 +25,14 @@ TEST(ProfileTextTest, SectionNames) {
   EXPECT_EQ(ValueOf("[\xC4]\r\n\xE9=v\r\n", "\xE4", "\xC9"), "v") << "accented letters";
 }
 
+TEST(ProfileTextTest, ACommentIsNoKeyAndNoSection) {
+  EXPECT_EQ(ValueOf("[s]\r\n;k=v\r\n", "s", ";k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n  ;k=v\r\n", "s", ";k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n;k=v\r\n", "s", "k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n;[t]\r\nk=v\r\n", "s", "k"), "v");
+  EXPECT_EQ(ValueOf("[s]\r\nk=v;w\r\n", "s", "k"), "v;w") << "only at a line's beginning";
+}
+
 struct ChangeCase {
   const char* rule;
   const char* before;
