@@ -90,7 +90,7 @@ class Screen:
             result = condition()
             if result:
                 return result
-        self.picture("/tmp/logchecker-screen-failure.png")
+        self.picture(f"/tmp/logchecker-screen-failure-{os.getuid()}.png")
         ended = [f"; {p.args[0]} ended with {p.returncode}: {p.stderr.read().decode()}"
                  for p in self.programs if p.poll() is not None]
         raise AssertionError(f"no {what}; on the screen: " +
