@@ -16,10 +16,10 @@ namespace {
 constexpr double kExtraSecond = 1;
 
 std::array<char, 256> UpperCaseTable() {
-  std::string all(256, '\0');
+  std::array<char, 256> table{};
+  std::string all(table.size(), '\0');
   std::iota(all.begin(), all.end(), '\0');
   const std::string upper = ToUpper(all);
-  std::array<char, 256> table{};
   std::copy(upper.begin(), upper.end(), table.begin());
   return table;
 }

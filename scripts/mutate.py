@@ -32,6 +32,12 @@ def equivalents():
     return found
 
 
+def makes_no_difference(mutant, same):
+    """Whether a row of the list means it: by its line, or by the line above and its own."""
+    return any((mutant.file, before, mutant.after) in same
+               for before in (mutant.before, f"{mutant.above} {mutant.before}"))
+
+
 def mutants_of(half):
     files = [str(file.relative_to(HERE)) for room in ROOMS for file in sorted((HERE / room).rglob("*.cpp"))]
     return [mutant for file in files if halves(file) == half and not file.startswith("platform/windows/")
@@ -137,7 +143,7 @@ def main():
             chosen[half] = [mutant for mutant in mutants if meant(mutant, wanted.only)]
         elif wanted.half in (half, "both"):
             chosen[half] = [mutant for mutant in in_order(mutants, wanted.seed)
-                            if (mutant.file, mutant.before, mutant.after) not in same]
+                            if not makes_no_difference(mutant, same)]
     if wanted.list:
         for mutants in chosen.values():
             for mutant in mutants[:None if wanted.only else wanted.count]:

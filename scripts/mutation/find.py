@@ -33,6 +33,7 @@ class Mutant:
     copy: int  # 1 for the first such change of this file, 2 for the same on a like line below it
     place: int  # where in the line's mutants of this operator, from 1
     line_after: str  # the whole line
+    above: str  # the line of code above, without the blanks around it
 
     @property
     def name(self):
@@ -166,6 +167,10 @@ def statement_begins(lines, number):
     return False
 
 
+def code_above(hidden, real, number):
+    return next((real[above].strip() for above in range(number - 1, -1, -1) if hidden[above].strip()), "")
+
+
 def checked_by_compiler(lines):
     """The numbers of the lines that belong to a static_assert."""
     inside = False
@@ -209,7 +214,7 @@ def find(file, source):
             copies[what] = copies.get(what, 0) + 1
             places[operator] = places.get(operator, 0) + 1
             mutants.append(Mutant(file, number + 1, operator, line.strip(), after.strip(), copies[what],
-                                  places[operator], after))
+                                  places[operator], after, code_above(lines, real, number)))
     return mutants
 
 

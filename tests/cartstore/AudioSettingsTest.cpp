@@ -31,7 +31,7 @@ TEST_F(AudioSettingsTest, AFileWithoutKeysGivesTheDefaults) {
 TEST_F(AudioSettingsTest, EachKeyIsReadFromItsPlace) {
   Load(
       "Carts11=D:\\ELEVEN\r\n[Audio]\r\nUseIndividualCartListFiles=7\r\nEmptyCartBackColor=255\r\n"
-      "EmptyCartForeColor=-2147483630\r\n",
+      "EmptyCartForeColor=-2147483640\r\n",
       "[Audiowall]\r\nNoCarts=12000\r\nVersion=3.1\r\n");
   EXPECT_EQ(Path("wall"), PartEntry(1).Path);
   EXPECT_EQ("D:\\ELEVEN", PartEntry(11).Path);
@@ -39,7 +39,7 @@ TEST_F(AudioSettingsTest, EachKeyIsReadFromItsPlace) {
   EXPECT_EQ(12000, gNumberOfCarts);
   EXPECT_EQ(255, gBlankCartInfo.BackColor);
   EXPECT_EQ(255, gBlankCartRecord.BackColor);
-  EXPECT_EQ(static_cast<int32_t>(0x80000012U), gBlankCartInfo.ForeColor);
+  EXPECT_EQ(static_cast<int32_t>(0x80000008U), gBlankCartInfo.ForeColor);
   EXPECT_EQ(gBlankCartInfo.ForeColor, gBlankCartRecord.ForeColor);
 }
 

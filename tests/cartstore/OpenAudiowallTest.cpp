@@ -51,6 +51,11 @@ TEST_F(OpenAudiowallTest, AnErrorFromBeforeIsForgotten) {
   EXPECT_EQ(0, OpenAudiowall(0, false));
   EXPECT_EQ(kNoError, gErrorState.Number);
   EXPECT_EQ("", gErrorState.Description);
+  CloseAudiowall();
+  PartEntry(1).Path.clear();
+  gErrorState = {kPermissionDenied, "Permission denied"};
+  EXPECT_EQ(-1, OpenAudiowall(0, true));
+  EXPECT_EQ(kNoError, gErrorState.Number) << "where no part has a location too";
 }
 
 TEST_F(OpenAudiowallTest, CancelEndsAtOnceAndLeavesTheLaterParts) {

@@ -1,5 +1,8 @@
 #include "common/Registry.h"
 
+#include <utility>
+
+#include "platform/Platform.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -79,6 +82,83 @@ TEST_F(RegistryValuesTest, ANumberThatCannotBeReadIsTheDefault) {
   }
   os.script.Clear();
   EXPECT_EQ(7, GetRegistryDWord(kCurrentUserRoot, kKey, "Number", -3));
+}
+
+// Counts the keys that are open, in force for as long as it lives.
+class CountingRegistry : public RegistryCalls {
+ public:
+  CountingRegistry()
+      : real_(Os().registry),
+        platform_{Os().files, Os().directories, Os().shell,       Os().profiles,
+                  *this,      Os().clock,       Os().waveDevices, Os().system},
+        before_(UsePlatform(platform_)) {}
+  CountingRegistry(const CountingRegistry&) = delete;
+  CountingRegistry& operator=(const CountingRegistry&) = delete;
+  ~CountingRegistry() override { UsePlatform(before_); }
+
+  int32_t OpenKey(uint32_t root, const std::string& subKey, bool fullAccess,
+                  RegistryKey* key) override {
+    return Opened(real_.OpenKey(root, subKey, fullAccess, key));
+  }
+  int32_t CreateKey(uint32_t root, const std::string& subKey, RegistryKey* key) override {
+    return Opened(real_.CreateKey(root, subKey, key));
+  }
+  void CloseKey(RegistryKey key) override {
+    --open;
+    real_.CloseKey(key);
+  }
+  int32_t QueryType(RegistryKey key, const std::string& name, uint32_t* type,
+                    uint32_t* size) override {
+    return real_.QueryType(key, name, type, size);
+  }
+  int32_t QueryData(RegistryKey key, const std::string& name, uint32_t* type,
+                    std::string* data) override {
+    return real_.QueryData(key, name, type, data);
+  }
+  int32_t SetValue(RegistryKey key, const std::string& name, uint32_t type,
+                   const std::string& data) override {
+    return real_.SetValue(key, name, type, data);
+  }
+  int32_t DeleteValue(RegistryKey key, const std::string& name) override {
+    return real_.DeleteValue(key, name);
+  }
+
+  int open = 0;
+  int opened = 0;
+
+ private:
+  int32_t Opened(int32_t error) {
+    if (error != 0) return error;
+    ++open;
+    ++opened;
+    return 0;
+  }
+
+  RegistryCalls& real_;
+  Platform platform_;
+  Platform& before_;
+};
+
+TEST_F(RegistryValuesTest, EachKeyThatIsOpenedIsClosed) {
+  CountingRegistry registry;
+  const auto expectClosed = [&](const char* step) {
+    EXPECT_EQ(0, registry.open) << step;
+    EXPECT_GT(std::exchange(registry.opened, 0), 0) << step;
+  };
+  SetRegistryString(kCurrentUserRoot, kKey, "Text", "value", "");
+  expectClosed("a text is stored");
+  EXPECT_EQ("value", Text(""));
+  expectClosed("a text is read");
+  SetRegistryDWord(kCurrentUserRoot, kKey, "Number", 7, 0);
+  expectClosed("a number is stored");
+  EXPECT_EQ(7, GetRegistryDWord(kCurrentUserRoot, kKey, "Number", 0));
+  expectClosed("a number is read");
+  EXPECT_TRUE(RegistryKeyExists(kCurrentUserRoot, kKey));
+  expectClosed("a key is looked for");
+  SetRegistryString(kCurrentUserRoot, kKey, "Text", "", "");
+  expectClosed("a text is deleted");
+  EXPECT_EQ("none", Text("none"));
+  expectClosed("a text is not there");
 }
 
 TEST_F(RegistryValuesTest, AWriteThatFailsIsIgnored) {

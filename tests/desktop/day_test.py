@@ -33,6 +33,7 @@ def main():
         middle = f"300x200+{left + width // 2 - 150}+{top + 300}"
         desk.until(lambda: desk.picture(after) or desk.difference(before, after, middle) > 1000,
                    "results window")
+        desk.settled()
 
         # A click on the second row lines the first split up on another break.
         desk.picture(before)
@@ -40,6 +41,7 @@ def main():
         first_split = f"180x500+{left + 20}+{top + 120}"
         for height in range(260, 420, 13):
             desk.click(frame, rows_left, height)
+            desk.settled()
             desk.picture(after)
             if desk.difference(before, after, first_split) > 1000:
                 break

@@ -107,6 +107,7 @@ def cancel_store(desk, config):
     for what in ("first message", "second message"):
         desk.until(lambda: len([w for w in desk.windows() if desk.name(w) ==
                                 "Velmar KLT Log Checker"]) > 1, what)
+        desk.settled()
         desk.keys("Return")
         if what == "first message":
             dialog = desk.window(CARTS, "cart locations")

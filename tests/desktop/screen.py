@@ -90,12 +90,40 @@ class Screen:
             result = condition()
             if result:
                 return result
-        self.picture("/tmp/logchecker-screen-failure.png")
+        self.picture(f"/tmp/logchecker-screen-failure-{os.getuid()}.png")
         ended = [f"; {p.args[0]} ended with {p.returncode}: {p.stderr.read().decode()}"
                  for p in self.programs if p.poll() is not None]
         raise AssertionError(f"no {what}; on the screen: " +
                              ", ".join(repr(self.name(w)) for w in self.windows()) +
                              "".join(ended))
+
+    def settled(self):
+        """Waits until the programs, the window manager and the server have done all that they were asked
+        to and wait for more. A key that comes in the middle of a day's check is taken in the middle of it,
+        and one that comes with a window may still go to the window before."""
+        self.tool("getactivewindow")  # What was typed has left the server when this has an answer.
+        self.until(self.all_wait, "rest of the programs")
+
+    def all_wait(self):
+        before = self.wakings()
+        time.sleep(0.05)
+        return before is not None and before == self.wakings()
+
+    def wakings(self):
+        """How often each of their threads has been woken; None when one of them is at work."""
+        found = {}
+        for process in [*self.programs, self.manager, self.server]:
+            for status in pathlib.Path(f"/proc/{process.pid}/task").glob("*/status"):
+                try:
+                    lines = dict(line.split(":\t", 1) for line in status.read_text().splitlines())
+                except OSError:  # The thread has ended.
+                    return None
+                if lines["State"][0] == "Z":
+                    continue
+                if lines["State"][0] != "S":
+                    return None
+                found[status] = lines["voluntary_ctxt_switches"]
+        return found
 
     def window(self, pattern, what=None, new=True):
         """The window whose name matches and that has the focus; a new one unless told otherwise."""

@@ -27,6 +27,7 @@ def main():
                                 if desk.name(window) == "Velmar KLT Log Checker"]) >= 3, "box")
         picture = desk.folder / "stopped.png"
         desk.picture(picture)
+        desk.settled()
         desk.keys("Return")
         assert program.wait(timeout=30) == 3, program.returncode
         print("a run-time error is said, and the exit code is 3")

@@ -9,7 +9,8 @@ def caption(day):
 
 
 def save(desk, path):
-    """Exports the results from the keyboard. The list has the focus."""
+    """Exports the results from the keyboard. The list has the focus once the check is done."""
+    desk.settled()
     desk.keys("Tab", "space")
     desk.window("^Export Results to CSV File", "save dialog")
     desk.keys("ctrl+a")

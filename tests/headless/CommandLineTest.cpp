@@ -67,7 +67,11 @@ TEST(CommandLine, WhatMakesNoSenseIsRefusedWithOneLineAndExitCodeTwo) {
       {"sample"},
       {"sample", "/f", "--splits", "11"},
       {"sample", "/f", "--breaks", "1441"},
+      {"sample", "/f", "--breaks", "0"},
       {"sample", "/f", "--adverts", "0"},
+      {"sample", "/f", "--adverts", "101"},
+      {"sample", "/f", "--splits", "0"},
+      {"sample", "/f", "--splits", "11"},
       {"--settings"},
       {"--output", "\xE6\x9D\xB1.csv", "--create-missing", "x"},
   };
@@ -127,6 +131,15 @@ TEST(CommandLine, SampleSizesAreNotedOnlyWhenGiven) {
   const ParsedArguments parsed = ParseArguments({"sample", "f", "--breaks", "1440"});
   EXPECT_TRUE(parsed.options->sampleSizes.AnyGiven());
   EXPECT_EQ(1440, parsed.options->sampleSizes.breaks);
+  const ParsedArguments most =
+      ParseArguments({"sample", "f", "--splits", "10", "--adverts", "100"});
+  EXPECT_EQ(10, most.options->sampleSizes.splits);
+  EXPECT_EQ(100, most.options->sampleSizes.adverts);
+  const ParsedArguments least =
+      ParseArguments({"sample", "f", "--splits", "1", "--breaks", "1", "--adverts", "1"});
+  EXPECT_EQ(1, least.options->sampleSizes.splits);
+  EXPECT_EQ(1, least.options->sampleSizes.breaks);
+  EXPECT_EQ(1, least.options->sampleSizes.adverts);
 }
 
 }  // namespace

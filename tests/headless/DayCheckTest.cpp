@@ -1,6 +1,8 @@
 #include "headless/DayCheck.h"
 
+#include "cartstore/AudiowallParts.h"
 #include "common/GeneralSettings.h"
+#include "headless/Station.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/support/StationTest.h"
@@ -20,6 +22,12 @@ class DayCheckTest : public StationTest {
     SettingsOf(2).SplitName = "South";
   }
 };
+
+TEST_F(DayCheckTest, TheStationsEndClosesTheStore) {
+  EXPECT_TRUE(PartEntry(1).IsOpen);
+  CloseStation();
+  EXPECT_FALSE(PartEntry(1).IsOpen);
+}
 
 TEST_F(DayCheckTest, EachDayStartsWithAllLogsClosed) {
   WriteLog(1, kDay, kBreak);

@@ -208,6 +208,18 @@ TEST(RichTextTest, RunsHaveTheirFormats) {
   EXPECT_EQ(runs[5].halfPoints, kDefaultHalfPoints);
 }
 
+TEST(RichTextTest, AColourHasThreePartsAndTheFirstOneIsAutomatic) {
+  const RichTextDocument document = ReadRichText(Doc(
+      "{\\colortbl;\\red1\\green2\\blue3;\\blue4;\\green5;}\\cf1 a\\cf2 b\\cf3 c\\cf4 d\\cf0 e"));
+  const auto& runs = document.paragraphs[0].runs;
+  ASSERT_EQ(runs.size(), 4U);
+  EXPECT_EQ(runs[0].colour, 0x030201);
+  EXPECT_EQ(runs[1].colour, 0x040000);
+  EXPECT_EQ(runs[2].colour, 0x000500);
+  EXPECT_EQ(runs[3].colour, kAutomaticColour);
+  EXPECT_EQ(runs[3].text, "de");
+}
+
 TEST(RichTextTest, WordsSwitchOffWithZeroAndGroupsBringBack) {
   const RichTextDocument document = ReadRichText(Doc("\\b a{\\b0 b}c\\ul d\\ul0 e"));
   const auto& runs = document.paragraphs[0].runs;

@@ -133,7 +133,9 @@ TEST_F(FilesTest, NumbersRunOut) {
 TEST_F(FilesTest, EveryNumberCanHaveAnOpenFile) {
   folder_.WriteFile("file.txt", "x");
   for (int i = 0; i < Files::kLastFileNumber; ++i) {
-    ASSERT_EQ(files_.OpenForInput(Number(), folder_.Path("file.txt")), kNoError) << i;
+    const int16_t number = Number();
+    ASSERT_EQ(files_.OpenForInput(number, folder_.Path("file.txt")), kNoError) << i;
+    EXPECT_EQ(Rest(number), "x") << i;
   }
 }
 

@@ -1,4 +1,6 @@
 // Copying with and without a question. On Windows the shell asks in windows of its own.
+#include <filesystem>
+
 #include "common/SystemHelpers.h"
 #include "platform/ErrorNumbers.h"
 #include "tests/support/StationTest.h"
@@ -42,6 +44,20 @@ TEST_F(ShellFileOperationTest, WithConfirmAFileIsReplacedOnlyOnYes) {
   EXPECT_EQ(0, Run("to.txt", true, true));
   EXPECT_EQ("new", folder().ReadFile("to.txt"));
   EXPECT_FALSE(folder().Exists("from.txt"));
+}
+
+TEST_F(ShellFileOperationTest, IntoAFolderTheFileKeepsItsName) {
+  std::filesystem::create_directory(folder().Path("into"));
+  folder().WriteFile("into/from.txt", "old");
+  for (const char* to : {"into", "into/"}) {
+    ui.messages.clear();
+    ui.answers = {MessageAnswer::kNo};
+    EXPECT_NE(0, Run(to, false, true));
+    ASSERT_EQ(1U, ui.messages.size());
+    EXPECT_EQ(0U, ui.messages[0].text.find(Path("into/from.txt"))) << "one separator";
+  }
+  EXPECT_EQ(0, Run("into", false, false));
+  EXPECT_EQ("new", folder().ReadFile("into/from.txt"));
 }
 
 TEST_F(ShellFileOperationTest, WithConfirmANewFileNeedsNoQuestion) {

@@ -37,6 +37,14 @@ TEST(ProfileTextTest, EachEncodingComesBackToTheByte) {
   for (const std::string& bytes : cases) EXPECT_EQ(ProfileText(bytes).Bytes(), bytes);
 }
 
+TEST(ProfileTextTest, ACommentIsNoKeyAndNoSection) {
+  EXPECT_EQ(ValueOf("[s]\r\n;k=v\r\n", "s", ";k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n  ;k=v\r\n", "s", ";k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n;k=v\r\n", "s", "k"), "none");
+  EXPECT_EQ(ValueOf("[s]\r\n;[t]\r\nk=v\r\n", "s", "k"), "v");
+  EXPECT_EQ(ValueOf("[s]\r\nk=v;w\r\n", "s", "k"), "v;w") << "only at a line's beginning";
+}
+
 struct ChangeCase {
   const char* rule;
   const char* before;

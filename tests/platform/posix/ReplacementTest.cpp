@@ -80,6 +80,17 @@ TEST_F(ReplacementTest, ADanglingLinkMakesTheFileItPointsTo) {
   EXPECT_TRUE(std::filesystem::is_symlink(folder().Path("link.ini")));
 }
 
+TEST_F(ReplacementTest, ADanglingLinkPointsFromItsOwnFolderOrFromTheRoot) {
+  const std::string outside = folder().Path("outside.ini");
+  std::filesystem::create_directories(folder().Path("a/b"));
+  std::filesystem::create_symlink(outside, folder().Path("a/rooted.ini"));
+  std::filesystem::create_symlink("b/below.ini", folder().Path("a/link.ini"));
+  EXPECT_EQ(kNoError, ReplaceFile(folder().Path("a/rooted.ini"), "rooted"));
+  EXPECT_EQ("rooted", folder().ReadFile("outside.ini"));
+  EXPECT_EQ(kNoError, ReplaceFile(folder().Path("a/link.ini"), "below"));
+  EXPECT_EQ("below", folder().ReadFile("a/b/below.ini"));
+}
+
 TEST_F(ReplacementTest, AFullDiskLeavesTheOldSettingsWhole) {
   const std::string old = "[General]\r\nKey=" + std::string(3000, 'v') + "\r\n";
   folder().WriteFile("VELKLT.INI", old);
