@@ -2,6 +2,7 @@
 
 #include <filesystem>
 
+#include "cartstore/OpenAudiowall.h"
 #include "tests/cartbrowser/CartBrowserFixture.h"
 
 namespace logchecker {
@@ -178,13 +179,11 @@ TEST_F(CartBrowserTest, TheBusyPointerShowsDuringARefreshAndGoesBack) {
 
 TEST_F(CartBrowserTest, APartThatComesBackIsOnShowAtTheNextRefresh) {
   PutCart(3, RecordOfLength(30, "THREE"));
-  Os().files.CloseAll();
-  PartEntry(1).State = kPartUnchecked;
+  CloseAudiowall();
   std::filesystem::rename(Path("part1"), Path("away"));
   browser.RefreshRows();
   EXPECT_EQ("", browser.Row(3).Caption);
   std::filesystem::rename(Path("away"), Path("part1"));
-  PartEntry(1).FileNumber = 0;
   browser.RefreshRows();
   EXPECT_EQ("THREE", browser.Row(3).Caption);
 }

@@ -84,7 +84,7 @@ def find_and_choose(desk, config):
     desk.until(lambda: height_of(desk, search) > collapsed, "list of what was found")
     # The list's first row lies below its heading. What was found is marked there, and the list is empty
     # further down.
-    row = collapsed + 9
+    row = collapsed + 22
     desk.until(lambda: desk.colour(search, 150, row) != desk.colour(search, 150, row + 3 * ROW),
                "found cart in the list")
     desk.tool("mousemove", "--window", search, 150, row, "click", "--repeat", 2, "--delay", 60, 1)

@@ -134,7 +134,6 @@ TEST(RichTextTest, EachDestinationThatIsNoTextOfTheNoteIsPassedOver) {
                            "private",
                            "revtbl",
                            "rxe",
-                           "shppict",
                            "sp",
                            "stylesheet",
                            "tc",

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <limits>
 
 #include "common/GeneralSettings.h"
 #include "platform/Platform.h"
@@ -116,8 +117,15 @@ TEST_F(GeneralSettingsTest, TheToleranceIsNotTested) {
   const struct {
     const char* text;
     int32_t milliseconds;
-  } rows[] = {{"", 0},       {"-2", -2000}, {"0.5", 500}, {"0.0005", 0},
-              {"0.0015", 2}, {"1e9", 0},    {"seven", 0}, {"3 s", 3000}};
+  } rows[] = {{"", 0},
+              {"-2", -2000},
+              {"0.5", 500},
+              {"0.0005", 0},
+              {"0.0015", 2},
+              {"1e9", std::numeric_limits<int32_t>::max()},
+              {"-1e9", std::numeric_limits<int32_t>::min()},
+              {"seven", 0},
+              {"3 s", 3000}};
   for (const auto& row : rows) {
     Open();
     Seconds()->setText(row.text);
