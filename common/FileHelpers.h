@@ -30,8 +30,8 @@ std::string ReadTextLine(int16_t fileNumber);
 // The same into a text whose memory is used again.
 void ReadTextLine(int16_t fileNumber, std::string& line);
 
-// Makes `bytes` the whole file, or leaves the file that was there. "" on success, otherwise one clear
-// line.
+// Makes `bytes` the whole file, or leaves the file that was there. "" on success, otherwise one
+// clear line.
 std::string WriteWholeFile(const std::string& path, const std::string& bytes);
 
 // The folder of profile files, without a separator at its end.

@@ -23,8 +23,8 @@ class LogGridView : public QTableView, public LogGridObserver {
   void SelectionChanged() override;
 
  signals:
-  // A click of the left button anywhere on the grid, whose row is the one that was pressed, or Enter
-  // in it. A double click is one click.
+  // A click of the left button anywhere on the grid, whose row is the one that was pressed, or
+  // Enter in it. A double click is one click.
   void breakChosen();
 
  protected:
