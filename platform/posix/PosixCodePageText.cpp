@@ -1,5 +1,6 @@
 #include <iconv.h>
 
+#include <cstdint>
 #include <string>
 
 #include "platform/CodePageText.h"
@@ -27,7 +28,8 @@ void ReadDoubleBytePage(int32_t codePage, std::vector<char16_t>* cells) {
   cells->assign(kDoubleByteCells, kNoCharacter);
   const std::string name = "CP" + std::to_string(codePage);
   const iconv_t conversion = iconv_open("UTF-16LE", name.c_str());
-  if (conversion == reinterpret_cast<iconv_t>(-1)) return;
+  // The call's own value for a failure, which is no address.
+  if (reinterpret_cast<intptr_t>(conversion) == -1) return;
   for (size_t cell = 0; cell < kDoubleByteCells; ++cell) {
     char bytes[] = {static_cast<char>(cell >> 8U), static_cast<char>(cell & 0xFFU)};
     const bool alone = cell < 0x100;
