@@ -14,6 +14,7 @@ PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question,
   setWindowTitle(question.title);
   withheld_->hide();
   TakeLastPrinter();
+  OfferFileWithItsBox();
   Offer(question);
   ShowOptions();
 }
@@ -32,6 +33,17 @@ void PrinterDialog::TakeLastPrinter() {
     printer()->setPrinterName(gLastPrinter->name);
   }
   printer()->setPageLayout(gLastPrinter->layout);
+}
+
+// The toolkit turns the box for the file's name off for a queue, and leaves the button beside it.
+void PrinterDialog::OfferFileWithItsBox() {
+  auto* browse = findChild<QWidget*>("fileBrowser");
+  const auto* file = findChild<QLineEdit*>("filename");
+  auto* printers = findChild<QComboBox*>("printers");
+  if (browse == nullptr || file == nullptr || printers == nullptr) return;
+  const auto follow = [browse, file] { browse->setEnabled(file->isEnabled()); };
+  connect(printers, &QComboBox::currentIndexChanged, this, follow);
+  follow();
 }
 
 bool PrinterDialog::IsLastPrinter() const {
