@@ -14,6 +14,7 @@ PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question,
   setWindowTitle(question.title);
   withheld_->hide();
   TakeLastPrinter();
+  if (auto* file = findChild<QLineEdit*>("filename")) file->installEventFilter(this);
   OfferFileWithItsBox();
   Offer(question);
   ShowOptions();
@@ -39,11 +40,7 @@ void PrinterDialog::TakeLastPrinter() {
 void PrinterDialog::OfferFileWithItsBox() {
   auto* browse = findChild<QWidget*>("fileBrowser");
   const auto* file = findChild<QLineEdit*>("filename");
-  auto* printers = findChild<QComboBox*>("printers");
-  if (browse == nullptr || file == nullptr || printers == nullptr) return;
-  const auto follow = [browse, file] { browse->setEnabled(file->isEnabled()); };
-  connect(printers, &QComboBox::currentIndexChanged, this, follow);
-  follow();
+  if (browse != nullptr && file != nullptr) browse->setEnabled(file->isEnabled());
 }
 
 bool PrinterDialog::IsLastPrinter() const {
@@ -70,6 +67,9 @@ void PrinterDialog::childEvent(QChildEvent* event) {
 bool PrinterDialog::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && !paperPicked_) {
     if (auto* properties = qobject_cast<QDialog*>(watched)) ShowLastPaper(properties);
+  }
+  if (event->type() == QEvent::EnabledChange && watched->objectName() == "filename") {
+    OfferFileWithItsBox();
   }
   return QPrintDialog::eventFilter(watched, event);
 }
