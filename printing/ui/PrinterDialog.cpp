@@ -14,6 +14,8 @@ PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question,
   setWindowTitle(question.title);
   withheld_->hide();
   TakeLastPrinter();
+  if (auto* file = findChild<QLineEdit*>("filename")) file->installEventFilter(this);
+  OfferFileWithItsBox();
   Offer(question);
   ShowOptions();
 }
@@ -32,6 +34,13 @@ void PrinterDialog::TakeLastPrinter() {
     printer()->setPrinterName(gLastPrinter->name);
   }
   printer()->setPageLayout(gLastPrinter->layout);
+}
+
+// The toolkit turns the box for the file's name off for a queue, and leaves the button beside it.
+void PrinterDialog::OfferFileWithItsBox() {
+  auto* browse = findChild<QWidget*>("fileBrowser");
+  const auto* file = findChild<QLineEdit*>("filename");
+  if (browse != nullptr && file != nullptr) browse->setEnabled(file->isEnabled());
 }
 
 bool PrinterDialog::IsLastPrinter() const {
@@ -58,6 +67,9 @@ void PrinterDialog::childEvent(QChildEvent* event) {
 bool PrinterDialog::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && !paperPicked_) {
     if (auto* properties = qobject_cast<QDialog*>(watched)) ShowLastPaper(properties);
+  }
+  if (event->type() == QEvent::EnabledChange && watched->objectName() == "filename") {
+    OfferFileWithItsBox();
   }
   return QPrintDialog::eventFilter(watched, event);
 }

@@ -20,6 +20,7 @@ class PrinterDialog : public QPrintDialog {
 
  private:
   void TakeLastPrinter();
+  void OfferFileWithItsBox();
   bool IsLastPrinter() const;
   void ShowLastPaper(QDialog* properties);
   void Offer(const PrinterQuestion& question);

@@ -38,6 +38,8 @@ namespace {
 
 constexpr int kLeastHeight = 3000;  // twips
 constexpr QSize kDesignSize{1180, 760};
+// What a window manager may draw around the window; it does not say before the window is shown.
+constexpr QSize kRoomForFrame{16, 48};
 
 }  // namespace
 
@@ -62,7 +64,7 @@ frmMain::frmMain() : area_(new QMdiArea) {
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { SwitchFocus(); });
   QSize size = kDesignSize;
   if (const QScreen* screen = QApplication::primaryScreen()) {
-    size = size.boundedTo(screen->availableSize());
+    size = size.boundedTo(screen->availableSize() - kRoomForFrame);
   }
   resize(size);
   gSplits.SetFactory([this] {

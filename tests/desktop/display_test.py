@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """Without a display, and when the display goes, the programs say so in one line and end with exit code 2;
-where no screen is asked for they run without one."""
+where no screen is asked for they run without one, and on a small one the whole window is seen."""
 
 import os
 import pathlib
+import re
 import subprocess
 import sys
 
@@ -63,6 +64,26 @@ def no_screen_asked_for(desk):
         process.communicate()
 
 
+def small_screen(size):
+    with screen.Screen(size) as desk:
+        work.write_sample(BIN, desk.folder / "config")
+        desk.start(BIN / "logchecker")
+        frame = desk.window(FRAME["logchecker"])
+        desk.settled()
+        said = subprocess.run(["xwininfo", "-id", frame], env=desk.environment, capture_output=True,
+                              text=True, check=True).stdout
+        left, top, width, height = (
+            int(re.search(name + r":\s*(-?\d+)", said)[1])
+            for name in ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
+        done = subprocess.run(["xprop", "-id", frame, "_NET_FRAME_EXTENTS"], env=desk.environment,
+                              capture_output=True, text=True, check=True)
+        before, after, above, below = (int(number) for number in done.stdout.split("=")[1].split(","))
+        assert above > 0, "a window without a frame proves nothing"
+        assert left - before >= 0 and top - above >= 0, (size, left, top)
+        assert left + width + after <= size[0], (size, left, width)
+        assert top + height + below <= size[1], (size, top, height)
+
+
 def main():
     os.environ.pop("WAYLAND_DISPLAY", None)
     with screen.Screen() as desk:
@@ -73,7 +94,9 @@ def main():
         for managed in (True, False):
             for dialog in (False, True):
                 display_goes(program, managed, dialog)
-    print("a display that goes is told")
+    for size in ((1024, 768), (800, 600)):
+        small_screen(size)
+    print("a display that goes is told, and a small one is enough")
 
 
 main()

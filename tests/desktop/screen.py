@@ -8,7 +8,7 @@ import subprocess
 import tempfile
 import time
 
-NEEDED = ("Xvfb", "xdotool", "openbox", "xprop", "xev", "xclip", "import", "compare")
+NEEDED = ("Xvfb", "xdotool", "openbox", "xprop", "xwininfo", "xev", "xclip", "import", "compare")
 
 
 class Screen:

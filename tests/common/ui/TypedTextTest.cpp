@@ -42,5 +42,14 @@ TEST_F(TypedTextTest, NoWayOfTypingGivesAnythingButDigits) {
   EXPECT_EQ(box.text(), "1234");
 }
 
+// Some systems give the letter of a command as its text.
+TEST_F(TypedTextTest, ALetterWithControlIsACommandAndNotTyped) {
+  TypeDigitsOnly(box);
+  box.setText("12");
+  QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_A, "a", Qt::ControlModifier);
+  EXPECT_EQ(box.selectedText(), "12");
+  EXPECT_EQ(box.text(), "12");
+}
+
 }  // namespace
 }  // namespace logchecker

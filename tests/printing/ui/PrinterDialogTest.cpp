@@ -67,6 +67,34 @@ TEST_F(PrinterDialogTest, CopiesOfAReportAreJobsAndThoseOfANoteThePrinters) {
   }
 }
 
+TEST_F(PrinterDialogTest, TheButtonForAFilesNameGoesWithItsBox) {
+  const PrintQueue queue;
+  Ask({"T", false, JobKind::kReport}, [](QDialog* dialog) {
+    const auto* browse = Control<QWidget>(dialog, "fileBrowser");
+    PickQueue(dialog, PrintQueue::kName);
+    EXPECT_FALSE(browse->isEnabled());
+    auto* printers = Control<QComboBox>(dialog, "printers");
+    printers->setCurrentIndex(printers->count() - 1);
+    EXPECT_TRUE(browse->isEnabled());
+    PickQueue(dialog, PrintQueue::kName);
+    EXPECT_FALSE(browse->isEnabled());
+    dialog->reject();
+  });
+  gLastPrinter = LastPrinter{PrintQueue::kName, "", QPageLayout()};
+  Ask({"T", false, JobKind::kReport}, [](QDialog* dialog) {
+    EXPECT_FALSE(Control<QWidget>(dialog, "fileBrowser")->isEnabled());
+    dialog->reject();
+  });
+}
+
+TEST_F(PrinterDialogTest, WithoutQueuesAFilesNameCanBeLookedForAtOnce) {
+  Ask({"T", false, JobKind::kReport}, [](QDialog* dialog) {
+    ASSERT_TRUE(Control<QWidget>(dialog, "filename")->isEnabled());
+    EXPECT_TRUE(Control<QWidget>(dialog, "fileBrowser")->isEnabled());
+    dialog->reject();
+  });
+}
+
 // Picks A4 across in the printer's properties.
 void PickA4Across(QDialog* properties) {
   auto* sizes = Control<QComboBox>(properties, "pageSizeCombo");

@@ -1,6 +1,7 @@
 #include <QAbstractItemView>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QTimerEvent>
@@ -64,6 +65,13 @@ TEST_F(MainWindowTest, BeforeTheStartTheEntriesHaveTheirDesignCaptions) {
   EXPECT_EQ(Entry("mnuLogSettings10")->text(), "Split 10 Log Settings");
   EXPECT_EQ(main->windowTitle(), "Velmar KLT Log Checker");
   EXPECT_EQ(Control<QLabel>(main.get(), "splits")->text(), "# Splits");
+}
+
+TEST_F(MainWindowTest, OnASmallScreenThereIsRoomLeftForItsFrame) {
+  main = std::make_unique<frmMain>();
+  const QSize room = main->screen()->availableSize() - main->size();
+  EXPECT_GE(room.width(), 16);
+  EXPECT_GE(room.height(), 48);
 }
 
 TEST_F(MainWindowTest, TheToolbarHasTheTwoJobs) {
