@@ -1,15 +1,20 @@
 #include "common/UnreadableSettings.h"
 
 #include "common/FileHelpers.h"
+#include "common/Lookalikes.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
 #include "platform/StationText.h"
 
 namespace logchecker {
 
-std::string WhyUnreadable(const std::string& file) {
+std::string PathOfSettings(const std::string& file) {
   const bool bare = file.find_first_of("\\/:") == std::string::npos;
-  const std::string path = bare ? GetWindowsFolder() + "\\" + file : file;
+  return bare ? GetWindowsFolder() + "\\" + file : file;
+}
+
+std::string WhyUnreadable(const std::string& file) {
+  const std::string path = PathOfSettings(file);
   switch (Os().profiles.StateOf(file)) {
     case ProfileState::kNoFile:
       return "there are no settings: " + path + " is a directory, a pipe or a device";
@@ -23,6 +28,7 @@ std::string WhyUnreadable(const std::string& file) {
 }
 
 bool TellIfUnreadable(const std::string& file) {
+  TellLookalike(PathOfSettings(file));
   const std::string reason = WhyUnreadable(file);
   if (reason.empty()) return false;
   const std::string sentence = ToUpper(reason.substr(0, 1)) + reason.substr(1);

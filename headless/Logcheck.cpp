@@ -4,10 +4,13 @@
 
 #include "common/Dates.h"
 #include "common/GeneralSettings.h"
+#include "common/Lookalikes.h"
 #include "headless/CommandLine.h"
 #include "headless/Output.h"
 #include "headless/Reports.h"
 #include "headless/Station.h"
+#include "platform/StandardStreams.h"
+#include "platform/StationText.h"
 #include "sample/SampleStation.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
@@ -33,8 +36,12 @@ void RequireCheckableSplits() {
 
 std::string Report(const Options& options, const std::vector<DayReport>& days) {
   switch (options.format) {
-    case ReportFormat::kCsv:
-      return CsvReport(days, options.days > 1);
+    case ReportFormat::kCsv: {
+      // Programs get what a name holds, byte for byte; a terminal would obey it.
+      const std::string csv = CsvReport(days, options.days > 1);
+      const bool isShown = options.output.empty() && StandardOutputIsTerminal();
+      return isShown ? ToUtf8(WithoutControls(csv)) : csv;
+    }
     case ReportFormat::kJson:
       return JsonReport(days);
     default:
@@ -42,13 +49,9 @@ std::string Report(const Options& options, const std::vector<DayReport>& days) {
   }
 }
 
-void WriteWarnings(TerminalUi& ui) {
-  for (const std::string& message : ui.TakeMessages()) WriteErrorLine("warning: " + message);
-}
-
 int Check(const Options& options) {
   TerminalUi ui(options.createMissing);
-  ReadStationSettings(options);
+  ReadStationSettings(options, ui);
   RequireCheckableSplits();
   OpenStore(ui);
   std::vector<DayReport> days;
@@ -56,7 +59,8 @@ int Check(const Options& options) {
   bool anyChecked = false;
   for (int32_t day = FirstDay(options); days.size() < static_cast<size_t>(options.days); ++day) {
     days.push_back(CheckDay(day));
-    WriteWarnings(ui);
+    ui.WriteWarnings();
+    WarnOfUnreadableParts();
     const DayReport& report = days.back();
     if (!report.trouble.empty()) {
       WriteErrorLine(report.trouble);
@@ -69,6 +73,8 @@ int Check(const Options& options) {
   // A day that could not be checked leaves an earlier report as it was, but for JSON, which says
   // so.
   if (anyChecked || options.format == ReportFormat::kJson) {
+    TellLookalike(options.output);
+    ui.WriteWarnings();
     WriteOrThrow(options.output, Report(options, days));
   }
   return result;
@@ -76,12 +82,12 @@ int Check(const Options& options) {
 
 int Show(const Options& options) {
   TerminalUi ui(options.createMissing);
-  ReadStationSettings(options);
+  ReadStationSettings(options, ui);
   OpenStore(ui);
   SplitSettings& settings = SettingsOf(options.split);
   settings.LogDate = FirstDay(options);
   gSplits(options.split).LoadLogFile();
-  WriteWarnings(ui);
+  ui.WriteWarnings();
   if (settings.LogFileNumber == 0) {
     throw Trouble("no log for split " + std::to_string(options.split) + " \"" + settings.SplitName +
                   "\": " + GetLogSourcePath(options.split, settings.LogDate, false));
@@ -92,7 +98,7 @@ int Show(const Options& options) {
 
 int Cart(const Options& options) {
   TerminalUi ui(options.createMissing);
-  ReadStationSettings(options);
+  ReadStationSettings(options, ui);
   OpenStore(ui);
   WriteOrThrow("", CartReport(options.carts));
   return kAllMatch;

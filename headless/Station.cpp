@@ -1,10 +1,13 @@
 #include "headless/Station.h"
 
+#include <set>
+
 #include "cartstore/AudioSettings.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
+#include "common/Lookalikes.h"
 #include "common/UnreadableSettings.h"
 #include "platform/Platform.h"
 #include "shell/LoadGeneralSettings.h"
@@ -26,33 +29,19 @@ int32_t ReadingError(const std::string& path) {
   return error;
 }
 
-void RequireReadable(const std::string& file) {
+void RequireReadable(const std::string& file, TerminalUi& ui) {
+  TellLookalike(PathOfSettings(file));
+  ui.WriteWarnings();
   const std::string reason = WhyUnreadable(file);
   if (!reason.empty()) throw Trouble(reason);
 }
 
-void RequireSettings() {
-  RequireReadable(kDefaultSettingsFile);
+void RequireSettings(TerminalUi& ui) {
+  RequireReadable(kDefaultSettingsFile, ui);
   const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
   if (!(GetFileLength(file) > 0))
     throw Trouble("there are no settings: " + file + " is missing or empty");
   if (ReadingError(file) != kNoError) throw Trouble("the settings can't be read: " + file);
-}
-
-// The opening takes a list file that can't be read as it is, and its carts would pass for carts
-// without audio.
-void WarnOfUnreadableParts() {
-  for (int16_t part = 1; part <= PartsInUse(); ++part) {
-    const AudiowallPart& entry = PartEntry(part);
-    if (entry.State != kPartUsable) continue;
-    CartRecord record{};
-    int32_t error = Os().files.GetRecord(OwnFileNumber(entry), 1, &record);
-    if (error == kNoError) continue;
-    // Without an open file that number says nothing.
-    if (error == kBadFileNumber) error = ReadingError(entry.FullFileName);
-    WriteErrorLine("warning: part " + std::to_string(part) + " of the cart store can't be read: " +
-                   entry.FullFileName + ": " + ErrorText(error));
-  }
 }
 
 std::string Joined(const std::vector<std::string>& texts) {
@@ -63,20 +52,20 @@ std::string Joined(const std::vector<std::string>& texts) {
 
 }  // namespace
 
-void ReadStationSettings(const Options& options) {
+void ReadStationSettings(const Options& options, TerminalUi& ui) {
   SetCommandLine(options.wholeLine);
   if (!options.settingsFolder.empty() && !Os().system.SetWindowsFolder(options.settingsFolder)) {
     throw Trouble("the settings folder's name has characters that the code page can't hold");
   }
-  RequireSettings();
+  RequireSettings(ui);
   LoadGeneralSettings();
-  RequireReadable(gSettingsFile);
+  RequireReadable(gSettingsFile, ui);
 }
 
 void OpenStore(TerminalUi& ui) {
-  RequireReadable(kFamilySettingsFile);
+  RequireReadable(kFamilySettingsFile, ui);
   LoadAudioSettings(kFamilySettingsFile, "");
-  RequireReadable(AudiowallSettingsFile());
+  RequireReadable(AudiowallSettingsFile(), ui);
   const bool opened = OpenAudiowall(0, false) == 0;
   const std::vector<std::string> messages = ui.TakeMessages();
   if (!opened) {
@@ -88,6 +77,27 @@ void OpenStore(TerminalUi& ui) {
   }
   for (const std::string& message : messages) WriteErrorLine("warning: " + message);
   WarnOfUnreadableParts();
+}
+
+// A part that once had its file is looked at even where a read has failed since: the next cart of
+// it would try again.
+void WarnOfUnreadableParts() {
+  static std::set<int16_t> told;
+  for (int16_t part = 1; part <= PartsInUse(); ++part) {
+    const AudiowallPart& entry = PartEntry(part);
+    CartRecord record{};
+    int32_t error = kNoError;
+    if (entry.IsOpen) error = Os().files.GetRecord(OwnFileNumber(entry), 1, &record);
+    if (error == kNoError) {
+      told.erase(part);
+      continue;
+    }
+    if (!told.insert(part).second) continue;
+    // Without an open file that number says nothing.
+    if (error == kBadFileNumber) error = ReadingError(entry.FullFileName);
+    WriteErrorLine("warning: part " + std::to_string(part) + " of the cart store can't be read: " +
+                   entry.FullFileName + ": " + ErrorText(error));
+  }
 }
 
 void CloseStation() {

@@ -41,4 +41,8 @@ void TerminalUi::ShowProgress(int32_t value, int32_t maximum) {
 
 std::vector<std::string> TerminalUi::TakeMessages() { return std::exchange(messages_, {}); }
 
+void TerminalUi::WriteWarnings() {
+  for (const std::string& message : TakeMessages()) WriteErrorLine("warning: " + message);
+}
+
 }  // namespace logchecker

@@ -28,6 +28,8 @@ class TerminalUi : public UserInterface {
 
   // The texts of the messages shown since the last call, in order.
   std::vector<std::string> TakeMessages();
+  // Takes them, and writes each as a warning.
+  void WriteWarnings();
 
  private:
   bool createMissing_;

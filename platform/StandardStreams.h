@@ -14,6 +14,7 @@ void HoldStandardStreams();
 
 // Writes bytes as they are, with no change of line ends. False when not all could be written.
 bool WriteStandardOutput(std::string_view bytes);
+bool StandardOutputIsTerminal();
 
 // Writes station text in the encoding of the system's console, with a blank for each control
 // character but line feed and tabulator; failures are swallowed.

@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
+#include "common/Lookalikes.h"
 #include "common/UserInterface.h"
 #include "common/ui/StationQString.h"
 #include "dialogs/ui/HostFolder.h"
@@ -85,6 +86,7 @@ bool SaveDialog::Refuses(const QString& file) {
   }
   const QFileInfo facts = FactsOf(stationPath);
   if (facts.isDir()) return false;
+  TellLookalike(stationPath);
   if (facts.exists() && !overwritePrompt_) return false;
   if (facts.exists()) {
     return !Agrees(tr("%1 already exists.\n\nReplace it?").arg(facts.fileName()));

@@ -39,6 +39,8 @@ void HoldStandardStreams() {
 
 bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STDOUT_FILENO, bytes); }
 
+bool StandardOutputIsTerminal() { return isatty(STDOUT_FILENO) == 1; }
+
 void WriteStandardError(std::string_view stationText) {
   WriteWhole(STDERR_FILENO, ToUtf8(WithoutControls(stationText)));
 }

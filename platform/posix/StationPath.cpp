@@ -52,8 +52,15 @@ std::string WithFoundNames(const std::string& path) {
 
 // Settings are read and written by host paths, and looked for by station paths, which are found in
 // any letter case. Both must mean the same folder, so its name is settled once.
-std::string& WindowsFolderSlot() {
-  static std::string folder = WithFoundNames(UserConfigFolder() + "/velmar");
+struct WindowsFolder {
+  explicit WindowsFolder(const std::string& wanted) : path(WithFoundNames(wanted, &lookalike)) {}
+
+  HostLookalike lookalike;
+  std::string path;
+};
+
+WindowsFolder& WindowsFolderSlot() {
+  static WindowsFolder folder(UserConfigFolder() + "/velmar");
   return folder;
 }
 
@@ -75,10 +82,10 @@ std::string WithoutDrive(std::string path) {
 
 }  // namespace
 
-const std::string& HostWindowsFolder() { return WindowsFolderSlot(); }
+const std::string& HostWindowsFolder() { return WindowsFolderSlot().path; }
 
 void SetHostWindowsFolder(const std::string& folder) {
-  WindowsFolderSlot() = WithFoundNames(folder);
+  WindowsFolderSlot() = WindowsFolder(folder);
 }
 
 bool FindName(const std::string& hostFolder, const std::string& name, std::string* found,
@@ -95,7 +102,11 @@ bool FindName(const std::string& hostFolder, const std::string& name, std::strin
 }
 
 std::string HostPath(std::string_view stationPath, HostLookalike* lookalike) {
-  return WithFoundNames(WithoutDrive(ToUtf8(stationPath)), lookalike);
+  const std::string path = WithoutDrive(ToUtf8(stationPath));
+  const WindowsFolder& folder = WindowsFolderSlot();
+  // That folder's name has been settled, so nothing of it is left to be seen in the path.
+  if (path.rfind(folder.path + "/", 0) == 0) *lookalike = folder.lookalike;
+  return WithFoundNames(path, lookalike);
 }
 
 std::string HostPath(std::string_view stationPath) {

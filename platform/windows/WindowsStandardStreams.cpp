@@ -20,6 +20,11 @@ bool WriteWhole(DWORD stream, std::string_view bytes) {
   return true;
 }
 
+bool IsTerminal(DWORD stream) {
+  DWORD mode = 0;
+  return GetConsoleMode(GetStdHandle(stream), &mode) != 0;
+}
+
 }  // namespace
 
 // A number that stands for nothing can become that of the next file which is opened, and what is
@@ -34,6 +39,8 @@ void HoldStandardStreams() {
 
 bool WriteStandardOutput(std::string_view bytes) { return WriteWhole(STD_OUTPUT_HANDLE, bytes); }
 
+bool StandardOutputIsTerminal() { return IsTerminal(STD_OUTPUT_HANDLE); }
+
 void WriteStandardError(std::string_view stationText) {
   WriteWhole(STD_ERROR_HANDLE, WithoutControls(stationText));
 }
@@ -42,9 +49,6 @@ void OverwriteTerminalLine(std::string_view stationText) {
   WriteWhole(STD_ERROR_HANDLE, "\r" + WithoutControls(stationText) + "\r");
 }
 
-bool StandardErrorIsTerminal() {
-  DWORD mode = 0;
-  return GetConsoleMode(GetStdHandle(STD_ERROR_HANDLE), &mode) != 0;
-}
+bool StandardErrorIsTerminal() { return IsTerminal(STD_ERROR_HANDLE); }
 
 }  // namespace logchecker

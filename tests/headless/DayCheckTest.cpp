@@ -1,8 +1,11 @@
 #include "headless/DayCheck.h"
 
+#include <filesystem>
+
 #include "cartstore/AudiowallParts.h"
 #include "common/GeneralSettings.h"
 #include "headless/Station.h"
+#include "platform/HostPaths.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/support/StationTest.h"
@@ -27,6 +30,33 @@ TEST_F(DayCheckTest, TheStationsEndClosesTheStore) {
   EXPECT_TRUE(PartEntry(1).IsOpen);
   CloseStation();
   EXPECT_FALSE(PartEntry(1).IsOpen);
+}
+
+// A directory in its place is what nobody can read, whatever the user's rights.
+TEST_F(DayCheckTest, APartThatCanNoLongerBeReadIsAWarningOnceEachTime) {
+  WriteLog(1, kDay, kBreak);
+  const auto warnings = [] {
+    ::testing::internal::CaptureStderr();
+    CheckDay(kDay);
+    WarnOfUnreadableParts();
+    return ::testing::internal::GetCapturedStderr();
+  };
+  const std::string file = ToHostPath(PartEntry(1).FullFileName);
+  ASSERT_TRUE(std::filesystem::exists(file));
+  const auto told = [&](const std::string& text) {
+    return text.find("part 1 of the cart store can't be read: " + PartEntry(1).FullFileName +
+                     ": Path/File access error\n") != std::string::npos;
+  };
+  EXPECT_FALSE(told(warnings()));
+  for (int time = 0; time < 2; ++time) {
+    std::filesystem::rename(file, file + ".kept");
+    std::filesystem::create_directory(file);
+    EXPECT_TRUE(told(warnings()));
+    EXPECT_FALSE(told(warnings())) << "it is known";
+    std::filesystem::remove(file);
+    std::filesystem::rename(file + ".kept", file);
+    EXPECT_FALSE(told(warnings())) << "it is back";
+  }
 }
 
 TEST_F(DayCheckTest, EachDayStartsWithAllLogsClosed) {

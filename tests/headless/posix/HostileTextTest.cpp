@@ -1,12 +1,14 @@
 // Names, paths and arguments that would work a terminal if they came to it as they are.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
+#include "platform/Platform.h"
 #include "platform/StationText.h"
-#include "tests/support/RunProgram.h"
+#include "tests/support/posix/PlainUser.h"
 
 namespace logchecker {
 namespace {
@@ -107,6 +109,21 @@ TEST_F(HostileTextTest, CsvKeepsItAsItIs) {
   SetKey("SplitName1", kHostile);
   const ProgramResult result = AtStation("check --format csv");
   EXPECT_NE(std::string::npos, result.output.find(kHostile)) << result.output;
+}
+
+TEST_F(HostileTextTest, CsvOnATerminalHasNoneEither) {
+  SetKey("SplitName1", kHostile);
+  const std::string program = RealPlatform().system.ProgramFolder() + "/logcheck";
+  ProgramResult result =
+      RunShellCommand("script -qec '\"" + program + "\" --settings \"" + station_ +
+                          "\" --format csv" + kDate + " 2>/dev/null' /dev/null </dev/null",
+                      folder_);
+  EXPECT_EQ(1, result.exitCode);
+  // The terminal ends its lines so itself.
+  std::string& text = result.output;
+  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());
+  EXPECT_NE(std::string::npos, text.find("\"A [2J ]0;x  0;y")) << text;
+  EXPECT_EQ(-1, FirstControl(text)) << text;
 }
 
 TEST_F(HostileTextTest, AnArgumentIsShownAsItWasTyped) {

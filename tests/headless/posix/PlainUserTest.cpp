@@ -97,6 +97,47 @@ TEST_F(PlainUserTest, AFolderThatCouldBeTwoIsOneWarning) {
       << result.errors;
 }
 
+TEST_F(PlainUserTest, SettingsAndAReportThatCouldBeTwoAreAWarningEach) {
+  const struct {
+    std::string name;
+    std::string taken;
+    std::string other;
+  } names[] = {
+      {"/VELKLT.INI", "/Velklt.ini", "/velklt.ini"},
+      {"/VELMAR.INI", "/Velmar.ini", "/velmar.ini"},
+      {"/audio/carts 1/Audwall.ini", "/audio/carts 1/AUDWALL.INI", "/audio/carts 1/audwall.INI"},
+  };
+  for (const auto& file : names) {
+    std::filesystem::rename(station_ + file.name, station_ + file.taken);
+    std::filesystem::copy_file(station_ + file.taken, station_ + file.other);
+    const ProgramResult result = Check();
+    EXPECT_EQ(1, result.exitCode);
+    EXPECT_EQ(1U, Lines(result.errors)) << result.errors;
+    EXPECT_TRUE(Holds(result.errors, "\"" + station_ + file.taken + "\" is used, and \"" +
+                                         station_ + file.other + "\" is not."))
+        << result.errors;
+    std::filesystem::remove(station_ + file.other);
+    std::filesystem::rename(station_ + file.taken, station_ + file.name);
+  }
+  const ProgramResult inFolder = RunProgram(
+      "logcheck", "--settings '" + folder_.Path("STATION") + "' --date 2026-11-21", folder_);
+  EXPECT_EQ("", inFolder.errors);
+  std::filesystem::create_directory(folder_.Path("sTATION"));
+  const ProgramResult twoFolders = RunProgram(
+      "logcheck", "--settings '" + folder_.Path("STATION") + "' --date 2026-11-21", folder_);
+  EXPECT_TRUE(Holds(twoFolders.errors, "/sTATION\" is used, and \"" + station_ + "\" is not."))
+      << twoFolders.errors;
+  for (const char* report : {"Report.csv", "report.csv"}) folder_.WriteFile(report, "old");
+  const ProgramResult written =
+      RunProgram("logcheck",
+                 "--settings '" + station_ + "' --date 2026-11-21 --output '" +
+                     folder_.Path("REPORT.CSV") + "'",
+                 folder_);
+  EXPECT_EQ(1U, Lines(written.errors)) << written.errors;
+  EXPECT_TRUE(Holds(written.errors, "/Report.csv\" is used")) << written.errors;
+  EXPECT_NE("old", folder_.ReadFile("Report.csv"));
+}
+
 TEST_F(PlainUserTest, ALogFolderThatCouldBeTwoIsAWarningOfShowToo) {
   std::filesystem::create_directory(station_ + "/logs/LARKFIELD");
   std::filesystem::rename(station_ + "/logs/LARKFIELD", station_ + "/logs/larkfielD");

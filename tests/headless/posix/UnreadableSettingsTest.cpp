@@ -3,12 +3,11 @@
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
 
-#include "tests/support/RunProgram.h"
+#include "tests/support/posix/PlainUser.h"
 
 namespace logchecker {
 namespace {
@@ -75,16 +74,12 @@ TEST_F(UnreadableSettingsTest, EachFileIsNamedInOneLine) {
 }
 
 TEST_F(UnreadableSettingsTest, AFileThatMayNotBeReadIsNamed) {
-  chmod(folder_.Path("").c_str(), 0755);
-  chmod((station_ + "/VELMAR.INI").c_str(), 0000);
-  const std::string program = std::filesystem::read_symlink("/proc/self/exe").parent_path();
-  const std::string command = "setpriv --reuid=65534 --regid=65534 --clear-groups '" + program +
-                              "/logcheck' --settings '" + station_ + "'" + kDate + " 2>'" +
-                              folder_.Path("told") + "'";
-  const int status = std::system(command.c_str());
-  EXPECT_EQ(2, WEXITSTATUS(status));
-  EXPECT_EQ("logcheck: the settings can't be read: " + station_ + "\\VELMAR.INI\n",
-            folder_.ReadFile("told"));
+  OpenToAll(folder_);
+  ASSERT_EQ(0, chmod((station_ + "/VELMAR.INI").c_str(), 0));
+  const ProgramResult result =
+      RunAsPlainUser("logcheck", "--settings '" + station_ + "'" + kDate, folder_);
+  EXPECT_EQ(2, result.exitCode);
+  EXPECT_EQ("logcheck: the settings can't be read: " + station_ + "\\VELMAR.INI\n", result.errors);
 }
 
 // Whoever looks for the folder finds the same one.

@@ -104,6 +104,21 @@ TEST_F(StationPathTest, OfTwoThatFitEquallyTheFirstIsTakenAndBothAreNamed) {
   }
 }
 
+// Where it lies is settled once, and a path in it no longer shows that there was a choice.
+TEST_F(StationPathTest, AWindowsFolderThatCouldBeTwoIsNamedByThePathsInIt) {
+  MakeFile("Desk/VELKLT.INI");
+  MakeFile("desk/VELKLT.INI");
+  SetHostWindowsFolder(folder().Path("DESK"));
+  Lookalike found;
+  EXPECT_TRUE(Os().directories.FindLookalike(folder().Path("Desk") + "\\VELKLT.INI", &found));
+  EXPECT_EQ(folder().Path("Desk"), found.taken);
+  EXPECT_EQ(folder().Path("desk"), found.other);
+  EXPECT_FALSE(Os().directories.FindLookalike(folder().Path("desk/VELKLT.INI"), &found));
+  SetHostWindowsFolder(folder().Path("desk"));
+  EXPECT_FALSE(Os().directories.FindLookalike(folder().Path("desk/VELKLT.INI"), &found));
+  SetHostWindowsFolder(folder().Path());
+}
+
 TEST_F(StationPathTest, LookalikesOnADriveAreNamedByTheDrive) {
   MakeFile("drives/x/Audio/Carts1.lst");
   MakeFile("drives/x/Audio/carts1.lst");
