@@ -78,6 +78,14 @@ TEST_F(ResultsTest, StandsInTheMiddleAndIs5000TwipsWide) {
   EXPECT_EQ(window->y(), (area.viewport()->height() - window->height()) / 2);
 }
 
+TEST_F(ResultsTest, ItBeginsAt5000TwipsWhateverWidthItHadBefore) {
+  window = new frmCheckBreaks([] { return kDay; });
+  area.addSubWindow(window);
+  window->resize(600, 500);
+  window->Load(area.viewport()->size());
+  EXPECT_EQ(window->size(), QSize(ToPixels(5000), 500));
+}
+
 TEST_F(ResultsTest, ResizeLaysEverythingOutToTheTwip) {
   Check();
   for (const QSize size : {QSize(600, 400), QSize(333, 320), QSize(801, 501)}) {
