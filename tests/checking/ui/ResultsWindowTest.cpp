@@ -293,6 +293,30 @@ TEST_F(ResultsTest, TheWindowsBarIsEmptyAfterAWalkOfOneStep) {
   EXPECT_EQ(bar->value(), 0);
 }
 
+// Counts the rows that the list shows at each step of a check.
+class RowWatchingUi : public QtUserInterface {
+ public:
+  explicit RowWatchingUi(const QAbstractItemModel* rows) : rows_(rows) {}
+  void ShowProgress(int32_t value, int32_t maximum) override {
+    QtUserInterface::ShowProgress(value, maximum);
+    if (value > 0) shown.push_back(rows_->rowCount());
+  }
+
+  std::vector<int> shown;
+
+ private:
+  const QAbstractItemModel* rows_;
+};
+
+TEST_F(ResultsTest, RowsAreSeenWhileTheCheckRuns) {
+  Check();
+  RowWatchingUi watching(List()->model());
+  window->CheckBreaks();
+  ASSERT_FALSE(watching.shown.empty());
+  EXPECT_GT(watching.shown.back(), 0);
+  EXPECT_EQ(Rows(), 3);
+}
+
 // Looks at the buttons of the window at each step of a check.
 class ButtonWatchingUi : public RecordingUi {
  public:
