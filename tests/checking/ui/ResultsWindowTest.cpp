@@ -353,6 +353,8 @@ TEST_F(ResultsTest, EverythingHasANameAndTheButtonsTheirTips) {
   Check();
   EXPECT_EQ(Button("cmdSave")->toolTip(), "Export to a CSV File");
   EXPECT_EQ(Button("cmdPrint")->toolTip(), "Print the Report");
+  EXPECT_EQ(Button("cmdSave")->accessibleName(), "Save");
+  EXPECT_EQ(Button("cmdPrint")->accessibleName(), "Print");
   ExpectEverythingNamed(window);
 }
 

@@ -3,8 +3,10 @@
 
 #include <QPainter>
 #include <QStandardItemModel>
+#include <QTreeView>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/ReportList.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -53,6 +55,20 @@ TEST_F(CompactHeaderTest, AHeadingHasTheColourOfAButtonsTextAndLeavesThePainterA
   }
   EXPECT_TRUE(blue);
   EXPECT_FALSE(red);
+}
+
+TEST_F(CompactHeaderTest, AListOfRowsIsStripedAndIsLeftByTab) {
+  QTreeView list;
+  SetUpReportList(list);
+  EXPECT_TRUE(list.alternatingRowColors());
+  EXPECT_TRUE(list.allColumnsShowFocus());
+  EXPECT_TRUE(list.uniformRowHeights());
+  EXPECT_FALSE(list.rootIsDecorated());
+  EXPECT_FALSE(list.tabKeyNavigation());
+  EXPECT_EQ(list.editTriggers(), QAbstractItemView::NoEditTriggers);
+  EXPECT_EQ(list.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
+  EXPECT_EQ(list.font(), CompactFont());
+  EXPECT_NE(qobject_cast<CompactHeader*>(list.header()), nullptr);
 }
 
 }  // namespace
