@@ -116,10 +116,7 @@ bool frmFindCart::OnKey(const QKeyEvent& key) {
 }
 
 bool frmFindCart::event(QEvent* event) {
-  if (event->type() == QEvent::WindowActivate) {
-    Guarded([this] { Activate(); });
-    ShowHeight();  // by now the frame is there
-  }
+  if (event->type() == QEvent::WindowActivate) ShowHeight();  // by now the frame is there
   if (event->type() == QEvent::ApplicationPaletteChange) ColourBoxes();
   return QDialog::event(event);
 }

@@ -34,7 +34,6 @@ void HourDial::paintEvent(QPaintEvent* /*event*/) {
     painter.drawEllipse(centre, r, r);
   };
   painter.setPen(ToQColor(kRimColour, palette()));
-  disc(radius, kRimColour);
   disc(radius, kAfternoonColour);
   disc(radius / 2, kMorningColour);
   const std::optional<HourWedge> wedge = WedgeOfHour(hour_);

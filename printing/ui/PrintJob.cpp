@@ -81,7 +81,7 @@ void PrintJob::Send(const PrintedPages& pages) {
 QByteArray PrintJob::DrawWhole(const PrintedPages& pages) const {
   const QTemporaryDir folder;
   QPrinter paper(QPrinter::HighResolution);
-  paper.setOutputFormat(QPrinter::PdfFormat);
+  // The end of the name says that it is a PDF file.
   paper.setOutputFileName(folder.filePath("job.pdf"));
   paper.setResolution(chosen_.resolution());
   paper.setPageLayout(chosen_.pageLayout());

@@ -10,7 +10,6 @@ namespace logchecker {
 
 PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner)
     : QPrintDialog(printer, owner), withheld_(new QWidget(this)) {
-  setObjectName("PrinterDialog");
   setWindowTitle(question.title);
   withheld_->hide();
   TakeLastPrinter();

@@ -151,9 +151,9 @@ void LogGridView::mouseReleaseEvent(QMouseEvent* event) {
 // The first click has put another row under the pointer, and the second press is not meant for it.
 void LogGridView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
 
-void LogGridView::changeEvent(QEvent* event) {
-  QTableView::changeEvent(event);
+bool LogGridView::event(QEvent* event) {
   if (event->type() == QEvent::ApplicationFontChange) FitFont();
+  return QTableView::event(event);
 }
 
 // Any row can be the top one, the last break's too, so that all the splits line up.

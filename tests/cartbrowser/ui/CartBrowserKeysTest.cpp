@@ -5,6 +5,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 
+#include "cartbrowser/ui/KeyPreview.h"
 #include "tests/cartbrowser/ui/BrowserWindow.h"
 
 namespace logchecker {
@@ -55,6 +56,18 @@ TEST_F(CartBrowserKeysTest, TheNumberTakesNoLetterOfADeadKey) {
     QApplication::sendEvent(Number(), &event);
     EXPECT_EQ(Number()->text(), "7") << text;
   }
+}
+
+TEST_F(CartBrowserKeysTest, AltTypesACharacterOnlyWithControl) {
+  const auto characterOf = [](Qt::Key key, Qt::KeyboardModifiers modifiers, const char* text) {
+    return CharacterOf(QKeyEvent(QEvent::KeyPress, key, modifiers, QString::fromUtf8(text)));
+  };
+  EXPECT_EQ(characterOf(Qt::Key_J, {}, "j"), 'j');
+  EXPECT_EQ(characterOf(Qt::Key_J, Qt::AltModifier, "j"), '\0');
+  EXPECT_EQ(characterOf(Qt::Key_E, Qt::AltModifier | Qt::ControlModifier, "\xC3\xA9"), '\xE9');
+  EXPECT_EQ(characterOf(Qt::Key_F5, {}, ""), '\0');
+  EXPECT_EQ(characterOf(Qt::Key_Escape, Qt::AltModifier, ""), '\x1B');
+  EXPECT_EQ(characterOf(Qt::Key_Backspace, {}, ""), '\b');
 }
 
 TEST_F(CartBrowserKeysTest, TheNumberIsSelectedWhenItGetsTheFocusAndNotWhenItGetsItBack) {

@@ -1,6 +1,7 @@
 // The browser's rows as they are seen: whole, drawn, and turned by the wheel.
 #include <QWheelEvent>
 
+#include "cartbrowser/ui/CartRowsPanel.h"
 #include "tests/cartbrowser/ui/BrowserWindow.h"
 
 namespace logchecker {
@@ -118,6 +119,23 @@ TEST_F(CartBrowserRowsTest, AWheelWithoutNotchesScrollsWhenARowIsReached) {
   ExpectAt("2", 1);
   for (int part = 0; part < 2; ++part) Turn(-0.25);
   ExpectAt("4", 1);
+}
+
+TEST_F(CartBrowserRowsTest, ATextIsAsWideAsItsCharactersTogether) {
+  const QFontMetricsF metrics(CartRowFont());
+  const QString text = "AVATo. LYTa";
+  double sum = 0;
+  for (const QChar character : text) sum += metrics.horizontalAdvance(character);
+  EXPECT_EQ(metrics.horizontalAdvance(text), sum);
+}
+
+TEST_F(CartBrowserRowsTest, TheNumbersHaveRoomInAnyFont) {
+  auto* frame = Control<CartRowsPanel>(window.get(), "pnlCartLabels");
+  EXPECT_EQ(frame->ButtonWidth(), 855) << "the least";
+  QFont large = frame->font();
+  large.setPixelSize(60);
+  frame->setFont(large);
+  EXPECT_EQ(frame->ButtonWidth(), QFontMetrics(large).horizontalAdvance("000") * 15 + 240);
 }
 
 }  // namespace

@@ -67,6 +67,7 @@ TEST_F(CartBrowserFormTest, TheDescriptionStandsAboveTheListWhenItIsAskedFor) {
   Show();
   const auto* panel = Control<QFrame>(window.get(), "pnlDescription");
   EXPECT_TRUE(panel->isVisible());
+  EXPECT_EQ(panel->frameShape(), QFrame::StyledPanel) << "set off from the list";
   EXPECT_EQ(Control<QLabel>(window.get(), "lblDescription")->text(), "Pick <b>one</b> & more");
   EXPECT_LT(panel->geometry().bottom(),
             Control<QFrame>(window.get(), "picBrowser")->geometry().top());

@@ -2,10 +2,12 @@
 #include <QCheckBox>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QTabWidget>
 
 #include "tests/cartbrowser/ui/FindCartForm.h"
+#include "tests/support/ui/PaintCounter.h"
 
 namespace logchecker {
 namespace {
@@ -132,6 +134,76 @@ TEST_F(FindCartControlsTest, WithoutAStartCartProgressBeginsAtTheFirst) {
     EXPECT_EQ(first, "1") << start;
     EXPECT_EQ(Numbers(), (QStringList{"5", "50", "200", "299"})) << start;
   }
+}
+
+// A font that the controls need more room for than the window usually has.
+class LargeFontTest : public FindCartControlsTest {
+ protected:
+  void SetUp() override {
+    QFont large = before_;
+    large.setPixelSize(30);
+    QApplication::setFont(large);
+    FindCartControlsTest::SetUp();
+  }
+  void TearDown() override {
+    FindCartControlsTest::TearDown();
+    QApplication::setFont(before_);
+  }
+
+ private:
+  QFont before_ = QApplication::font();
+};
+
+TEST_F(LargeFontTest, ALargeFontGetsItsRoomInBothHeights) {
+  const int needed = window->layout()->minimumSize().height();
+  const int frame = window->frameGeometry().height() - window->height();
+  ASSERT_GT(frame, 0);
+  ASSERT_GT(needed, 183);
+  EXPECT_EQ(window->height(), needed);
+  FindText("cart");
+  EXPECT_EQ(window->frameGeometry().height(), 342 + needed + frame - 183);
+}
+
+TEST_F(FindCartControlsTest, TheSearchTextTakesOnlyCharactersOfTheCodePage) {
+  auto* line = Text()->lineEdit();
+  line->clear();
+  QTest::sendKeyEvent(QTest::Click, line, Qt::Key_unknown, QString::fromUtf8("\xE2\x98\x83"), {});
+  QTest::sendKeyEvent(QTest::Click, line, Qt::Key_unknown, QString::fromUtf8("\xC3\xA9"), {});
+  EXPECT_EQ(line->text(), QString::fromUtf8("\xC3\xA9"));
+}
+
+TEST_F(FindCartControlsTest, TheProgressIsPaintedAtOnce) {
+  PaintCounter paints(The<QLabel>("lblSearchCartNumber"));
+  walk.atCart = [&](int cart) {
+    // Before any event runs.
+    if (cart % 100 == 0) {
+      EXPECT_GT(paints.count, 0) << cart;
+    }
+    paints.count = 0;
+  };
+  FindText("cart");
+  EXPECT_EQ(walk.carts, 300);
+}
+
+TEST_F(FindCartControlsTest, ARowThatIsDeselectedIsNotTaken) {
+  FindText("cart");
+  ASSERT_EQ(SelectedRow(), 0);
+  QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::ControlModifier, Middle(0));
+  ASSERT_EQ(SelectedRow(), -1);
+  EXPECT_EQ(window->results().SelectedRow(), std::nullopt);
+  Key(Qt::Key_Return);
+  EXPECT_TRUE(browser.jumps.empty());
+  EXPECT_TRUE(window->isVisible());
+}
+
+TEST_F(FindCartControlsTest, OnlyAnEmptyCellIsReadOutAsEmpty) {
+  FindText("cart");
+  const auto said = [this](int row, FoundColumn column, int role) {
+    return List()->model()->index(row, column).data(role).toString();
+  };
+  EXPECT_EQ(said(1, kFoundLine1, Qt::AccessibleTextRole), "");
+  EXPECT_EQ(said(1, kFoundLine2, Qt::AccessibleTextRole), "Line 2 is empty");
+  EXPECT_EQ(said(1, kFoundLine2, Qt::ToolTipRole), "");
 }
 
 }  // namespace

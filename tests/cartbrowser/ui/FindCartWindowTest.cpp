@@ -10,6 +10,7 @@
 
 #include "cartbrowser/ui/SearchAnimation.h"
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "common/SystemHelpers.h"
 #include "common/ui/Icons.h"
 #include "tests/cartbrowser/ui/FindCartForm.h"
 
@@ -486,6 +487,11 @@ TEST_F(FindCartFormTest, TheAnimationMovesWhileItPlaysAndThenStandsStill) {
   };
   ASSERT_TRUE(QTest::qWaitFor([&] { return !isEmpty(picture()); }, kPatience))
       << "its first picture";
+  SearchAnimation opened;
+  opened.resize(film->size());
+  ASSERT_TRUE(opened.Open(GetProgramFolder() + "\\find.avi"));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !isEmpty(opened.grab().toImage()); }, kPatience))
+      << "one that was only opened stands at its first picture";
   const QImage first = picture();
   film->Play();
   EXPECT_TRUE(QTest::qWaitFor([&] { return picture() != first; }, kPatience));

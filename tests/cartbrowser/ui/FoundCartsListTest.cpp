@@ -70,6 +70,20 @@ TEST_F(FoundCartsListTest, WhereTheUserHasScrolledToRowsStayWhileOthersComeInAbo
   }
 }
 
+TEST_F(FoundCartsListTest, AtItsHeadTheListShowsTheRowsThatComeInAbove) {
+  for (int16_t cart = 1; cart <= 300; ++cart) PutCart(cart, 30);
+  FindText("*");
+  while (!window->results().Descending()) emit List()->header()->sectionClicked(kFoundNumber);
+  walk.carts = 0;
+  walk.atCart = [&](int cart) {
+    if (cart < 100 || cart % 5 != 0) return;
+    List()->ShowAddedRows();
+    EXPECT_EQ(Cell(List()->indexAt(QPoint()).row(), kFoundNumber), QString::number(cart));
+  };
+  FindText("*");
+  EXPECT_EQ(walk.carts, 300);
+}
+
 TEST_F(FoundCartsListTest, AKeyGoesOnFromTheRowAsItStandsByThen) {
   FindText("cart");
   for (int click = 0; click < 2; ++click) emit List()->header()->sectionClicked(kFoundNumber);

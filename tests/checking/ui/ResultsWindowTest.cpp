@@ -78,6 +78,14 @@ TEST_F(ResultsTest, StandsInTheMiddleAndIs5000TwipsWide) {
   EXPECT_EQ(window->y(), (area.viewport()->height() - window->height()) / 2);
 }
 
+TEST_F(ResultsTest, ItBeginsAt5000TwipsWhateverWidthItHadBefore) {
+  window = new frmCheckBreaks([] { return kDay; });
+  area.addSubWindow(window);
+  window->resize(600, 500);
+  window->Load(area.viewport()->size());
+  EXPECT_EQ(window->size(), QSize(ToPixels(5000), 500));
+}
+
 TEST_F(ResultsTest, ResizeLaysEverythingOutToTheTwip) {
   Check();
   for (const QSize size : {QSize(600, 400), QSize(333, 320), QSize(801, 501)}) {
@@ -285,6 +293,30 @@ TEST_F(ResultsTest, TheWindowsBarIsEmptyAfterAWalkOfOneStep) {
   EXPECT_EQ(bar->value(), 0);
 }
 
+// Counts the rows that the list shows at each step of a check.
+class RowWatchingUi : public QtUserInterface {
+ public:
+  explicit RowWatchingUi(const QAbstractItemModel* rows) : rows_(rows) {}
+  void ShowProgress(int32_t value, int32_t maximum) override {
+    QtUserInterface::ShowProgress(value, maximum);
+    if (value > 0) shown.push_back(rows_->rowCount());
+  }
+
+  std::vector<int> shown;
+
+ private:
+  const QAbstractItemModel* rows_;
+};
+
+TEST_F(ResultsTest, RowsAreSeenWhileTheCheckRuns) {
+  Check();
+  RowWatchingUi watching(List()->model());
+  window->CheckBreaks();
+  ASSERT_FALSE(watching.shown.empty());
+  EXPECT_GT(watching.shown.back(), 0);
+  EXPECT_EQ(Rows(), 3);
+}
+
 // Looks at the buttons of the window at each step of a check.
 class ButtonWatchingUi : public RecordingUi {
  public:
@@ -321,6 +353,8 @@ TEST_F(ResultsTest, EverythingHasANameAndTheButtonsTheirTips) {
   Check();
   EXPECT_EQ(Button("cmdSave")->toolTip(), "Export to a CSV File");
   EXPECT_EQ(Button("cmdPrint")->toolTip(), "Print the Report");
+  EXPECT_EQ(Button("cmdSave")->accessibleName(), "Save");
+  EXPECT_EQ(Button("cmdPrint")->accessibleName(), "Print");
   ExpectEverythingNamed(window);
 }
 

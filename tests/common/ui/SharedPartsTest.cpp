@@ -1,7 +1,10 @@
+#include <QAbstractButton>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QPainter>
+#include <QProgressDialog>
 #include <new>
 
 #include "common/Messages.h"
@@ -116,6 +119,15 @@ TEST_F(SharedPartsTest, EveryIconIsDrawnAtEveryScale) {
   }
 }
 
+TEST_F(SharedPartsTest, AnIconLeavesThePainterAsItWas) {
+  QImage image(16, 16, QImage::Format_ARGB32);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  IconNamed("save").paint(&painter, image.rect(), Qt::AlignCenter, QIcon::Disabled);
+  EXPECT_EQ(painter.opacity(), 1.0);
+  EXPECT_FALSE(painter.testRenderHint(QPainter::Antialiasing));
+}
+
 TEST_F(SharedPartsTest, AMessageBoxShowsPlainTextAndGivesTheAnswer) {
   QtUserInterface desktop;
   desktop.SetMousePointer(MousePointer::kHourglass);
@@ -172,6 +184,44 @@ TEST_F(SharedPartsTest, ProgressGoesToTheInnermostWatch) {
   Ui().ShowProgress(7, 10);
   EXPECT_EQ(inner, 5);
   EXPECT_EQ(outer, 7);
+}
+
+TEST_F(SharedPartsTest, ACopyThatTakesItsTimeIsShownUntilItIsDone) {
+  QtUserInterface desktop;
+  const auto shown = [] {
+    QList<QProgressDialog*> dialogs;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+      if (auto* dialog = qobject_cast<QProgressDialog*>(window)) dialogs.push_back(dialog);
+    }
+    return dialogs;
+  };
+  Ui().ShowFileProgress("Copying[*]", 1, 4);
+  ASSERT_EQ(shown().size(), 1);
+  const QProgressDialog* dialog = shown().front();
+  EXPECT_EQ(dialog->windowTitle(), "Copying[*][*]");
+  EXPECT_EQ(dialog->minimumDuration(), 500);
+  EXPECT_EQ(dialog->windowModality(), Qt::ApplicationModal);
+  EXPECT_TRUE(dialog->findChildren<QAbstractButton*>().isEmpty());
+  EXPECT_EQ(dialog->maximum(), 1000);
+  EXPECT_EQ(dialog->value(), 250);
+  Ui().ShowFileProgress("Copying[*]", 3, 4);
+  ASSERT_EQ(shown(), QList<QProgressDialog*>{const_cast<QProgressDialog*>(dialog)});
+  EXPECT_EQ(dialog->value(), 750);
+  Ui().ShowFileProgress("Copying[*]", 4, 4);
+  EXPECT_TRUE(shown().isEmpty());
+}
+
+TEST_F(SharedPartsTest, AListsHeadingsAreThoseOfItsColumns) {
+  ListView list;
+  list.ColumnHeaders = {{"A <b>", 800, ColumnAlignment::kLeft}, {"B", 0, ColumnAlignment::kRight}};
+  const ListViewModel model(list);
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal).toString(), "A <b>");
+  EXPECT_EQ(model.headerData(0, Qt::Horizontal, Qt::ToolTipRole).toString(), AsToolTip("A <b>"));
+  EXPECT_EQ(model.headerData(1, Qt::Horizontal, Qt::TextAlignmentRole).value<Qt::Alignment>(),
+            Qt::AlignRight | Qt::AlignVCenter);
+  EXPECT_FALSE(model.headerData(0, Qt::Horizontal, Qt::DecorationRole).isValid());
+  EXPECT_FALSE(model.headerData(0, Qt::Vertical).isValid()) << "rows have none";
+  EXPECT_FALSE(model.headerData(2, Qt::Horizontal).isValid());
 }
 
 TEST_F(SharedPartsTest, AListShowsItsRowsWithMissingSubItemsEmpty) {

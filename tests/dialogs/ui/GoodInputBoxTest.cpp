@@ -164,6 +164,18 @@ TEST_F(GoodInputBoxTest, ListsBeginWithNothingChosen) {
   EXPECT_EQ(ui.messages.size(), 1U);
 }
 
+TEST_F(GoodInputBoxTest, ItemsTakeThePlaceOfThoseBefore) {
+  for (const auto& [mode, name] : {std::pair(&frmGoodInputBox::UseComboList, "comboList"),
+                                   std::pair(&frmGoodInputBox::UseListMulti, "listMulti")}) {
+    box.hide();
+    box.Unload();
+    Show(mode);
+    box.SetItems({"other", "than these"});
+    const auto* combo = qobject_cast<QComboBox*>(Part<QWidget>(name));
+    EXPECT_EQ(combo != nullptr ? combo->count() : Part<QListWidget>(name)->count(), 2) << name;
+  }
+}
+
 TEST_F(GoodInputBoxTest, APresetTextStandsInTheBoxWhateverTheListHolds) {
   for (const char* preset : {"own", "plum", ""}) {
     DialogScript script([&](QDialog* dialog) {

@@ -8,6 +8,7 @@
 
 #include "common/Dates.h"
 #include "dialogs/ui/HourDial.h"
+#include "tests/support/ui/PaintCounter.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -358,6 +359,15 @@ TEST_F(SelectHourTest, APressOnTheDialSetsTheHourAndRedrawsIt) {
   EXPECT_EQ(Hour()->text(), "15") << "outside the disc";
   QTest::mouseClick(dial, Qt::LeftButton, {}, centre + QPoint(0, -40));
   EXPECT_EQ(StoppedBy(), 0) << "the middle column of the dial is no dead line";
+}
+
+TEST_F(SelectHourTest, TheDialIsPaintedAgainWhenTheHourIsTyped) {
+  Open("4640200");
+  QApplication::processEvents();
+  const PaintCounter paints(Control<HourDial>(&picker, "TimeP"));
+  Hour()->setText("7");
+  QApplication::processEvents();
+  EXPECT_GT(paints.count, 0);
 }
 
 TEST_F(SelectHourTest, ADoubleClickOnTheDialIsOk) {

@@ -363,5 +363,108 @@ TEST_F(NoteBoxTest, ASelectionKeepsTheFormatOfItsFirstParagraph) {
   EXPECT_EQ(Words().size(), 4U);
 }
 
+TEST_F(NoteBoxTest, TextWithoutAnIndentBeginsAtTheEdgeInTheSizeThatItSays) {
+  ShowRich("a\\par\\pard\\li1440\\ri720 {\\fs40 b}");
+  const QTextBlockFormat first = box.document()->firstBlock().blockFormat();
+  EXPECT_EQ(first.leftMargin(), 0);
+  EXPECT_EQ(first.rightMargin(), 0);
+  EXPECT_TRUE(first.tabPositions().isEmpty()) << "without a tab there is no stop";
+  const QTextBlockFormat second = box.document()->lastBlock().blockFormat();
+  EXPECT_EQ(second.leftMargin(), 96);
+  EXPECT_EQ(second.rightMargin(), 48);
+  EXPECT_EQ(FormatAt(1).fontPointSize(), 12);
+  EXPECT_EQ(FormatAt(3).fontPointSize(), 20);
+}
+
+TEST_F(NoteBoxTest, PlainTextIsShownInTheBoxsFont) {
+  QFont font = box.font();
+  font.setPointSize(23);
+  box.setFont(font);
+  Show("plain");
+  EXPECT_EQ(box.document()->defaultFont().pointSize(), 23);
+}
+
+TEST_F(NoteBoxTest, WhatHasRoomInOneBlockIsNotDividedFurther) {
+  const QString words = QString("word ").repeated(kLongestBlock / 5 + kLongestBlock / 8);
+  Show(words.toStdString());
+  ASSERT_EQ(box.document()->blockCount(), 2);
+  EXPECT_GT(box.document()->firstBlock().length(), kLongestBlock - 10);
+  const QString unbroken(kLongestBlock + 100, 'x');
+  Show(unbroken.toStdString());
+  ASSERT_EQ(box.document()->blockCount(), 2);
+  EXPECT_EQ(box.document()->firstBlock().length(), kLongestBlock + 1);
+}
+
+TEST_F(NoteBoxTest, ALongParagraphOnANewPageGoesOnAcrossItsBlocks) {
+  std::string line;
+  for (int i = 0; i < 2000; ++i) line += "w" + std::to_string(i) + " ";
+  ShowRich("one\\par\\pagebb " + line);
+  ASSERT_GT(box.document()->blockCount(), 2);
+  Print();
+  int tops = 0;
+  const std::vector<Word> words = Words();
+  for (size_t i = 1; i < words.size(); ++i) tops += words[i].y < words[i - 1].y ? 1 : 0;
+  EXPECT_EQ(tops + 1, Pages());
+  // All but the last page are full.
+  const double full = 9.69 * kPoints - 40;
+  for (size_t i = 2; i < words.size(); ++i) {
+    if (words[i].y >= words[i - 1].y) continue;
+    EXPECT_GT(words[i - 1].y, full) << words[i].text.toStdString();
+  }
+}
+
+TEST_F(NoteBoxTest, ALongLineBehindATabIsPrintedAsOne) {
+  std::string line;
+  for (int i = 0; i < 1500; ++i) line += "w" + std::to_string(i) + " ";
+  ShowRich("\\pard\\tx5760\\tab " + line);
+  ASSERT_GT(box.document()->blockCount(), 1);
+  Print();
+  const std::vector<Word> words = Words();
+  ASSERT_EQ(words.size(), 1500U);
+  EXPECT_NEAR(words[0].x, 4 * kPoints, 0.1);
+  double longest = 0;
+  for (const Word& word : words) longest = std::max(longest, word.x);
+  for (size_t i = 1; i < words.size(); ++i) {
+    if (words[i].x > words[i - 1].x) continue;
+    EXPECT_GT(words[i - 1].x, longest - 80) << words[i].text.toStdString() << " begins a line";
+  }
+}
+
+TEST_F(NoteBoxTest, NoCharacterIsDividedBetweenTwoBlocks) {
+  const QString smile = QString::fromUtf8("\xF0\x9F\x98\x80");
+  for (const QString& text : {smile.repeated(kLongestBlock), "x" + smile.repeated(kLongestBlock)}) {
+    Show(text.toStdString());
+    ASSERT_GT(box.document()->blockCount(), 1);
+    for (QTextBlock block = box.document()->begin(); block.isValid(); block = block.next()) {
+      EXPECT_FALSE(block.text().front().isLowSurrogate());
+    }
+  }
+}
+
+TEST_F(NoteBoxTest, NothingIsDrawnAboveAPagesEdge) {
+  std::string body;
+  for (int i = 0; i < 120; ++i) body += "MMMM\\line ";
+  ShowRich(body + "end");
+  Print();
+  ASSERT_GT(Pages(), 1);
+  for (const char* page : {"1", "2"}) {
+    const QString stem = Pdf() + ".page";
+    OutputOf("pdftoppm", {"-r", "72", "-f", page, "-l", page, "-singlefile", "-png", Pdf(), stem});
+    const QImage picture = QImage(stem + ".png").convertToFormat(QImage::Format_Grayscale8);
+    ASSERT_FALSE(picture.isNull());
+    const auto isWhite = [&](int from, int to) {
+      for (int y = from; y < to; ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+          if (qGray(picture.pixel(x, y)) < 200) return false;
+        }
+      }
+      return true;
+    };
+    EXPECT_TRUE(isWhite(0, 71)) << page;
+    EXPECT_TRUE(isWhite(picture.height() - 71, picture.height())) << page;
+    EXPECT_FALSE(isWhite(72, 100)) << page;
+  }
+}
+
 }  // namespace
 }  // namespace logchecker

@@ -310,6 +310,22 @@ TEST_F(PrintPreviewTest, ANoteThatIsNotShownWholeSaysSo) {
   EXPECT_FALSE(label->isVisible());
 }
 
+TEST_F(PrintPreviewTest, AFileThatIsMissingIsNotCut) {
+  folder().WriteFile("deep.rtf", DeepNote());
+  Open(Path("deep.rtf"));
+  const auto* label = Control<QLabel>(&preview, "lblCut");
+  ASSERT_TRUE(label->isVisible());
+  preview.LoadFile(Path("nothing.rtf"));
+  EXPECT_FALSE(label->isVisible());
+}
+
+TEST_F(PrintPreviewTest, WhatIsShownIsSavedWhateverHasBecomeOfItsFile) {
+  Open(Path("note.txt"));
+  folder().WriteFile("note.txt", "changed");
+  SaveUnder(HostName("copy.txt"));
+  EXPECT_EQ(folder().ReadFile("copy.txt"), "plain <b>text</b>\r\nsecond");
+}
+
 TEST_F(PrintPreviewTest, ANoteThatIsNotShownWholeIsSavedWholeAndAsksBeforeItReplaces) {
   folder().WriteFile("deep.rtf", DeepNote());
   folder().WriteFile("copy.txt", "old");

@@ -47,6 +47,17 @@ TEST_F(PrinterDialogTest, ANoteHasNoPageNumbersAndCanBeCollated) {
   });
 }
 
+TEST_F(PrinterDialogTest, TheNumbersOfAPageRangeGoWithIt) {
+  for (const JobKind kind : {JobKind::kReport, JobKind::kNote}) {
+    Ask({"T", false, kind}, [&](QDialog* dialog) {
+      for (const char* name : {"printRange", "from", "to"}) {
+        EXPECT_EQ(Control<QWidget>(dialog, name)->isVisible(), kind == JobKind::kReport) << name;
+      }
+      dialog->reject();
+    });
+  }
+}
+
 TEST_F(PrinterDialogTest, ASelectionIsPresetWhereThereIsOne) {
   for (const bool selection : {false, true}) {
     const auto choice = Ask({"T", selection, JobKind::kReport}, [&](QDialog* dialog) {
@@ -139,6 +150,25 @@ TEST_F(PrinterDialogTest, TheLastPaperIsSeenInThePropertiesAndCanBeChangedThere)
   });
   const auto choice = AskForPrinter(nullptr, {"T", false, JobKind::kReport});
   EXPECT_EQ(choice->printer->pageLayout().pageSize().id(), QPageSize::Letter);
+}
+
+TEST_F(PrinterDialogTest, TheLastPaperTakesThePlaceOfTheQueuesOwnInTheProperties) {
+  const PrintQueue queue;
+  queue.SetOwnPaper("A4");
+  gLastPrinter =
+      LastPrinter{PrintQueue::kName, "",
+                  QPageLayout(QPageSize(QSize(612, 792), "Letter"), QPageLayout::Portrait, {})};
+  DialogScript script([](QDialog* dialog) {
+    Control<QPushButton>(dialog, "properties")->click();
+    dialog->reject();
+  });
+  script.Then([](QDialog* properties) {
+    const auto* sizes = Control<QComboBox>(properties, "pageSizeCombo");
+    EXPECT_EQ(sizes->itemText(0), "Letter");
+    EXPECT_EQ(sizes->currentText(), "Letter");
+    properties->reject();
+  });
+  EXPECT_FALSE(AskForPrinter(nullptr, {"T", false, JobKind::kReport}));
 }
 
 TEST_F(PrinterDialogTest, AFileIsALastPrinterToo) {

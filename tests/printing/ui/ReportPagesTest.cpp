@@ -166,6 +166,16 @@ TEST_F(ReportTest, ATextIsAsWideAsItsCharactersTogether) {
   EXPECT_NEAR(points * 20, twips, 4);
 }
 
+TEST_F(ReportTest, AnInchHas1440Twips) {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(pdf);
+  printer.setPageSize(QPageSize(QPageSize::A4));
+  QtPrintCanvas canvas(printer, "T");
+  EXPECT_DOUBLE_EQ(canvas.TwipsPerPixelX() * printer.logicalDpiX(), 1440);
+  EXPECT_DOUBLE_EQ(canvas.TwipsPerPixelY() * printer.logicalDpiY(), 1440);
+}
+
 TEST_F(ReportTest, AccentedAndControlCharactersPrint) {
   ListView list = ListOf(2, 1);
   list.ListItems[0].ListSubItems[0].text = "caf\xE9 \x01\x7F\t\x80";

@@ -9,6 +9,7 @@
 
 #include "checking/ui/frmCheckBreaks.h"
 #include "common/ui/ClickableLabel.h"
+#include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "tests/shell/ui/MainTest.h"
@@ -92,6 +93,7 @@ TEST_F(MainWindowTest, TheToolbarHasTheTwoJobs) {
     EXPECT_EQ(Control<QLabel>(main.get(), job.label)->text(), job.caption);
     EXPECT_TRUE(Control<QToolBar>(main.get(), "picToolbar")->isAncestorOf(button));
   }
+  EXPECT_EQ(Control<QToolBar>(main.get(), "picToolbar")->windowTitle(), "Jobs");
 }
 
 TEST_F(MainWindowTest, TheStatusBarCountsTheSplits) {
@@ -250,6 +252,23 @@ TEST_F(MainWindowTest, TheWindowListHasTheOpenChildrenInPlainText) {
   menu->actions()[1]->trigger();
   EXPECT_EQ(Area()->activeSubWindow(), &Window(2));
   EXPECT_FALSE(Window(2).isMinimized());
+}
+
+TEST_F(MainWindowTest, AnEntryOfTheWindowListBringsItsWindowToTheFront) {
+  ASSERT_TRUE(Start());
+  Window(2).showMinimized();
+  auto* menu = Control<QMenu>(main.get(), "mnuWindow");
+  for (const int16_t n : {int16_t{3}, int16_t{2}, int16_t{1}}) {
+    emit menu->aboutToShow();
+    QAction* entry = nullptr;
+    for (QAction* action : menu->actions()) {
+      if (action->text().endsWith(AsMenuText(Window(n).windowTitle()))) entry = action;
+    }
+    ASSERT_NE(entry, nullptr) << n;
+    entry->trigger();
+    EXPECT_EQ(Area()->activeSubWindow(), &Window(n)) << n;
+    EXPECT_FALSE(Window(n).isMinimized()) << n;
+  }
 }
 
 TEST_F(MainWindowTest, TheFrameIsNeverLowerThan3000Twips) {

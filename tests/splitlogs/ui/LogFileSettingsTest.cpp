@@ -88,6 +88,18 @@ TEST_F(LogFileSettingsTest, TheSampleFollowsTheTyping) {
   EXPECT_EQ(Sample(), "AB15012027.TXT");
 }
 
+TEST_F(LogFileSettingsTest, TheSampleIsThereBeforeAnythingIsTyped) {
+  SettingsOf(1) = {};
+  SettingsOf(1).DateFormat.clear();
+  SettingsOf(1).Extension.clear();
+  const frmLogFileSettings empty;
+  const QString first = Control<QLabel>(&empty, "lblSampleFilename")->text();
+  frmLogFileSettings other;
+  Control<QLineEdit>(&other, "txtFormat")->setText("YYMMDD");
+  Control<QLineEdit>(&other, "txtFormat")->clear();
+  EXPECT_EQ(first, Control<QLabel>(&other, "lblSampleFilename")->text());
+}
+
 TEST_F(LogFileSettingsTest, ARefusedFormatShowsThatTheDetailsAreInvalidAndOkIsStillAllowed) {
   Type("txtFormat", "yymmx");
   EXPECT_EQ(Sample(), "The details are invalid");

@@ -74,5 +74,11 @@ TEST_F(SplitWindowSizeTest, AMaximisedWindowHasNoLeastSizeAndIsLaidOut) {
   EXPECT_EQ(Border(), BorderThatFills());
 }
 
+TEST_F(SplitWindowSizeTest, ItBeginsInItsOwnSize) {
+  EXPECT_EQ(frmSplit().size(),
+            QSize(ToPixels(frmSplit::kDesignWidth), ToPixels(frmSplit::kDesignHeight)));
+  EXPECT_EQ(window->width(), ToPixels(5400));
+}
+
 }  // namespace
 }  // namespace logchecker

@@ -1,8 +1,10 @@
 #include <QHeaderView>
 #include <QMdiArea>
 #include <QPainter>
+#include <QProxyStyle>
 #include <QScrollBar>
 
+#include "common/ui/CellDelegate.h"
 #include "common/ui/Twips.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
@@ -276,6 +278,52 @@ TEST_F(SplitWindowTest, TextFromALogIsDrawnAsItIs) {
   gSplits(1).LoadLogFile();
   EXPECT_TRUE(Cell(1, 1, 1).toString().startsWith("<img src=x>"));
   EXPECT_FALSE(View(1).grab().isNull());
+}
+
+TEST_F(SplitWindowTest, TabLeavesTheGridWhereItStands) {
+  View(1).setFocus();
+  const int row = View(1).currentIndex().row();
+  const int column = View(1).currentIndex().column();
+  QTest::keyClick(&View(1), Qt::Key_Tab);
+  EXPECT_EQ(View(1).currentIndex().row(), row);
+  EXPECT_EQ(View(1).currentIndex().column(), column);
+  EXPECT_EQ(gSplits(1).gridLog.Row(), row + 1);
+}
+
+TEST_F(SplitWindowTest, TheGridFollowsTheFontAndTheStyleOfTheDesktop) {
+  class WideFrames : public QProxyStyle {
+   public:
+    int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override {
+      return metric == PM_DefaultFrameWidth ? 7 : QProxyStyle::pixelMetric(metric, option, widget);
+    }
+  };
+  WideFrames wide;
+  View(1).setStyle(&wide);
+  EXPECT_EQ(View(1).frameWidth(), 7);
+  View(1).setStyle(nullptr);
+  const QFont before = QApplication::font();
+  QFont other = before;
+  other.setBold(true);
+  // The toolkit tells a child window of it only where its desktop has fonts of its own.
+  const auto use = [&](const QFont& font) {
+    QApplication::setFont(font);
+    QEvent changed(QEvent::ApplicationFontChange);
+    QApplication::sendEvent(&View(1), &changed);
+  };
+  use(other);
+  EXPECT_TRUE(View(1).font().bold());
+  EXPECT_EQ(View(1).horizontalHeader()->font(), View(1).font());
+  EXPECT_EQ(View(1).verticalHeader()->defaultSectionSize(), CompactRowHeight());
+  use(before);
+  EXPECT_FALSE(View(1).font().bold());
+}
+
+TEST_F(SplitWindowTest, TheGridBearsTheWindowsCaptionForThoseWhoCantSeeIt) {
+  EXPECT_EQ(View(1).accessibleName().toStdString(), Window(1).Caption());
+  SettingsOf(1).SplitName = "Other";
+  gSplits(1).UpdateInfo();
+  EXPECT_TRUE(View(1).accessibleName().contains("Other"));
 }
 
 }  // namespace

@@ -29,6 +29,10 @@ class PrintQueue {
 
   // A program of the scheduler, as `cupsdisable`, on the queue.
   void Command(const QString& program) const { Run(program, {kName}); }
+  // The paper that the queue prints on unless told otherwise.
+  void SetOwnPaper(const QString& name) const {
+    Run("lpadmin", {"-p", kName, "-o", "PageSize=" + name});
+  }
   // Takes the queue away.
   void Remove() const { Run("lpadmin", {"-x", kName}); }
   // All that the queue ever got, the first job first.
