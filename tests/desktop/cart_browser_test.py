@@ -16,7 +16,9 @@ ROW = 21  # pixels
 
 def start(desk, *arguments):
     program = desk.start(BIN / "cartbrowser", *arguments)
-    return program, desk.window(BROWSER, "browser")
+    window = desk.window(BROWSER, "browser")
+    desk.settled()
+    return program, window
 
 
 def ended(program, code, output):
