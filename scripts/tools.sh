@@ -41,7 +41,7 @@ need_elsewhere() {
 
 plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
 build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev qt6-multimedia-dev libcups2-dev)
-test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev
+test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev libjpeg-dev
   python3 xvfb openbox xdotool xclip x11-utils imagemagick fonts-dejavu-core poppler-utils cups)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
