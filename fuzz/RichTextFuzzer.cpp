@@ -19,8 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     Require(PictureFile(picture).size() <= picture.bytes.size() + 14);
   }
   Require(pictures <= size);
-  // Files this small pass no limit but that of the groups. A last paragraph that holds a picture and
-  // no text is none of the whole text.
+  // Files this small pass no limit but that of the groups. A last paragraph that holds a picture
+  // and no text is none of the whole text.
   const std::string whole = ReadWholeText(bytes);
   Require(document.isCut || !document.pictures.empty() || whole == text);
   Require(PlainTextFile(whole).size() <= 2 * whole.size() + 3);
