@@ -2,6 +2,7 @@
 # Builds and runs all tests. With an option, one of the other checks:
 #   --windows    the plain tests, cross-built for Windows and run under Wine
 #   --sanitize   the tests with the address and undefined-behaviour sanitizers
+#   --pages      logcheck's pages, looked at in a browser
 #   --lint       format, clang-tidy, includes, the order of the rooms, and the table of rules
 set -euo pipefail
 cd "$(dirname "$0")"
@@ -25,12 +26,17 @@ case "${1:-}" in
     need "${test_packages[@]}"
     run_tests asan
     ;;
+  --pages)
+    need_page_tools
+    build debug logcheck
+    LOGCHECK=$PWD/build/debug/bin/logcheck node --test tests/pages/*_test.mjs
+    ;;
   --lint)
     need "${lint_packages[@]}"
     scripts/lint.sh
     ;;
   *)
-    sed -n '2,6s/^# \{0,1\}//p' "$0" >&2
+    sed -n '2,7s/^# \{0,1\}//p' "$0" >&2
     exit 2
     ;;
 esac

@@ -19,6 +19,10 @@ ROWS = [
     ("a tenth of it: 10 splits, 144 breaks, 8 adverts", (10, 144, 8), 1, None, None),
     ("30 ordinary days", (10, 60, 5), 30, None, None),
 ]
+# The heavy day's page: mistakes in that day, the check's own time that it may take, its size in MiB.
+PAGE_MISTAKES = (5, 400)
+PAGE_MOST_TIMES = 2
+PAGE_MOST_MIB = 5
 
 
 def milliseconds(arguments):
@@ -39,6 +43,27 @@ def mebibytes(arguments):
 
 def measure(arguments, times):
     return statistics.median(milliseconds(arguments) for _ in range(times)), mebibytes(arguments)
+
+
+def measure_pages(logcheck, folder, times):
+    """A line for each page of a heavy day. Whether one passed a limit."""
+    failed = False
+    for mistakes in PAGE_MISTAKES:
+        station = str(folder / f"page-{mistakes}")
+        page = folder / "page.html"
+        subprocess.run([logcheck, "sample", station, "--splits", "10", "--breaks", "1440", "--adverts", "8",
+                        "--mistakes", str(mistakes)], check=True)
+        time.sleep(3)
+        arguments = [logcheck, "check", "--settings", station]
+        measure(arguments, 2)
+        check, _ = measure(arguments, times)
+        both, _ = measure([*arguments, "--format", "html", "--output", str(page)], times)
+        size = page.stat().st_size / 1024 / 1024
+        over = both > PAGE_MOST_TIMES * check or size > PAGE_MOST_MIB
+        failed = failed or over
+        print(f"{f'its page with {mistakes} mistakes':<50}{both:8.1f} ms {size:7.1f} MiB   the check alone "
+              f"{check:.1f} ms, limit {PAGE_MOST_TIMES} times, {PAGE_MOST_MIB} MiB{'   OVER' if over else ''}")
+    return failed
 
 
 def main():
@@ -67,6 +92,7 @@ def main():
             over = bool(most_ms) and (elapsed > most_ms or memory > most_mib)
             failed = failed or over
             print(f"{name:<50}{elapsed:8.1f} ms {memory:7.1f} MiB{limit}{'   OVER' if over else ''}")
+        failed = measure_pages(logcheck, folder, options.times) or failed
         names = [row[0] for row in ROWS]
         tenfold = (results[names[1]] - start) / (results[names[2]] - start)
         thirty = results[names[3]] / results[names[0]]

@@ -6,9 +6,12 @@ cd "$(dirname "$0")/.."
 . scripts/tools.sh
 
 need "${benchmark_packages[@]}"
-build bench logcheck logchecker_bench soak_bench desktop_bench report_bench browser_bench note_bench
+build bench logcheck logchecker_bench soak_bench watch_soak desktop_bench report_bench browser_bench note_bench
 python3 bench/day.py
+python3 bench/stations.py
 python3 bench/store.py
+python3 bench/board.py
+python3 bench/watch.py
 python3 bench/desktop.py
 python3 bench/browser.py
 build/bench/bin/logchecker_bench --benchmark_min_time=0.3

@@ -5,6 +5,7 @@
 #include "cartstore/BlankCart.h"
 #include "cartstore/CartFiles.h"
 #include "cartstore/OpenAudiowall.h"
+#include "cartstore/UnreadableCarts.h"
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "platform/Platform.h"
@@ -49,6 +50,7 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
   AudiowallPart& entry = PartEntry(part);
   if (entry.State != kPartUsable && OpenAudiowall(part, true) != 0) {
     entry.State = kPartUnusable;
+    TellUnreadableCart(cartNumber, entry.Path, kOutOfReach);
     return Blank(info, kOutOfReach);
   }
   CartRecord record = gBlankCartRecord;
@@ -57,7 +59,10 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
     const std::string file = GetCartFileStem(cartNumber) + ".LST";
     if (GetFileLength(file) > 0) {
       const int32_t error = ReadOwnListFile(file, &record);
-      if (!Succeeded(error)) return Blank(info, error);
+      if (!Succeeded(error)) {
+        TellUnreadableCart(cartNumber, file, error);
+        return Blank(info, error);
+      }
       read = true;
     }
   }
@@ -66,6 +71,7 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
     const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
     if (!Succeeded(error)) {
       entry.State = kPartUnusable;
+      TellUnreadableCart(cartNumber, entry.FullFileName, error);
       return Blank(info, error);
     }
   }

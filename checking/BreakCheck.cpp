@@ -3,10 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 
 #include "cartstore/LoadCartInfo.h"
 #include "cartstore/OpenAudiowall.h"
+#include "checking/LengthBounds.h"
+#include "checking/OddLengths.h"
 #include "common/GeneralSettings.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
@@ -24,6 +25,8 @@ constexpr float kNoMinimum = 99999.0F;
 constexpr int32_t kLongestProgress = 32000;
 constexpr int32_t kTimeColumnWidth = 800;  // twips
 constexpr char kNotFound[] = "Not Found";
+constexpr char kMissingRemark[] = "no break at this time";
+constexpr char kOddRemark[] = "differs from most splits";
 
 int16_t ActiveSplits() { return gGeneralSettings.NumberActiveSplits; }
 
@@ -105,6 +108,16 @@ void MeasureBreaks(float time, BreaksAtATime& breaks) {
   }
 }
 
+std::array<float, kMostSplits> LengthsOf(const BreaksAtATime& breaks) {
+  std::array<float, kMostSplits> lengths{};
+  lengths.fill(BreakCheck::kNoBreak);
+  for (int16_t n = 1; n <= ActiveSplits(); ++n) {
+    const size_t i = IndexOf(n);
+    if (breaks.BreakRow[i] > 0) lengths[i] = breaks.BreakLength[i];
+  }
+  return lengths;
+}
+
 bool TimesDiffer(float time, const BreaksAtATime& breaks) {
   for (int16_t n = 1; n <= ActiveSplits(); ++n) {
     if (breaks.BreakTime[IndexOf(n)] != time) return true;
@@ -112,16 +125,10 @@ bool TimesDiffer(float time, const BreaksAtATime& breaks) {
   return false;
 }
 
-// All lengths are held against the shortest one; a length on a bound passes. The bounds are rounded
-// to single precision, and a length that is no finite number fails them.
 bool LengthsDiffer(const BreaksAtATime& breaks) {
-  const double tolerance = gGeneralSettings.BreakDifferenceMS / 1000.0;
-  const auto lower = static_cast<float>(breaks.ShortestLength - tolerance);
-  const auto upper = static_cast<float>(tolerance + breaks.ShortestLength);
+  const LengthBounds bounds(breaks.ShortestLength);
   for (int16_t n = 1; n <= ActiveSplits(); ++n) {
-    const float length = breaks.BreakLength[IndexOf(n)];
-    const bool matches = std::isfinite(length) && lower <= length && upper >= length;
-    if (!matches) return true;
+    if (!bounds.Hold(breaks.BreakLength[IndexOf(n)])) return true;
   }
   return false;
 }
@@ -133,6 +140,14 @@ std::string KeyOfTime(float time) {
 }
 
 }  // namespace
+
+bool LengthsMatch(const std::vector<float>& lengths) {
+  float shortest = kNoMinimum;
+  for (const float length : lengths) shortest = length < shortest ? length : shortest;
+  const LengthBounds bounds(shortest);
+  return std::all_of(lengths.begin(), lengths.end(),
+                     [&](float length) { return bounds.Hold(length); });
+}
 
 float TimeOfResultKey(const std::string& key) { return static_cast<float>(Val(Mid(key, 2))); }
 
@@ -173,6 +188,8 @@ void BreakCheck::Walk() {
     if (!any) return;
     CurrentTime = EarliestTime(breaks);
     MeasureBreaks(CurrentTime, breaks);
+    TimesCompared.push_back(CurrentTime);
+    LengthsCompared.push_back(LengthsOf(breaks));
     if (TimesDiffer(CurrentTime, breaks) || LengthsDiffer(breaks)) AddRow(CurrentTime, breaks);
     CurrentTime = static_cast<float>(CurrentTime + 0.1);
   }
@@ -189,8 +206,13 @@ void BreakCheck::AddRow(float time, const BreaksAtATime& breaks) {
     const size_t i = IndexOf(n);
     const bool found = breaks.BreakTime[i] >= 0;
     row.ListSubItems.push_back(
-        {found ? FormatLengthDisplay(breaks.BreakLength[i], mask) : kNotFound});
+        {found ? FormatLengthDisplay(breaks.BreakLength[i], mask) : kNotFound, false,
+         found ? "" : kMissingRemark});
     mismatch.Lengths.push_back({found, breaks.BreakLength[i]});
+  }
+  const std::vector<bool> odd = OddLengths(mismatch.Lengths);
+  for (size_t i = 0; i < odd.size(); ++i) {
+    if (odd[i]) row.ListSubItems[i].Remark = kOddRemark;
   }
   lvwResults.ListItems.push_back(std::move(row));
   Mismatches.push_back(std::move(mismatch));
@@ -203,6 +225,8 @@ void BreakCheck::CheckBreaks() {
   cmdSaveEnabled = false;
   lvwResults.ListItems.clear();
   Mismatches.clear();
+  TimesCompared.clear();
+  LengthsCompared.clear();
   if (PrepareProgress()) {
     Ui().SetMousePointer(MousePointer::kHourglass);
     Walk();

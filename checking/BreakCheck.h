@@ -2,10 +2,12 @@
 // it.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <vector>
 
+#include "common/GeneralSettings.h"
 #include "common/ListView.h"
 
 namespace logchecker {
@@ -42,6 +44,11 @@ class BreakCheck {
 
   ListView lvwResults;
   std::vector<BreakMismatch> Mismatches;  // in step with the rows of lvwResults
+  std::vector<float> TimesCompared;       // seconds, ascending; 99999 for the row without a time
+  // In step with TimesCompared, by the split's number less 1: the length of its break in seconds,
+  // kNoBreak where it has none.
+  static constexpr float kNoBreak = -1;
+  std::vector<std::array<float, kMostSplits>> LengthsCompared;
   ProgressBar ProgressBar1;
   bool cmdPrintEnabled = false;
   bool cmdSaveEnabled = false;
@@ -53,6 +60,10 @@ class BreakCheck {
   void Walk();
   void AddRow(float time, const struct BreaksAtATime& breaks);
 };
+
+// Whether lengths in seconds are within the tolerance of the shortest of them, by the rule of the
+// comparison. A length that is no finite number never is.
+bool LengthsMatch(const std::vector<float>& lengths);
 
 // The time in seconds that a row's key stands for.
 float TimeOfResultKey(const std::string& key);

@@ -4,6 +4,7 @@
 
 #include "common/DatePicture.h"
 #include "common/ErrorState.h"
+#include "common/PathText.h"
 #include "platform/Platform.h"
 
 namespace logchecker {
@@ -39,7 +40,7 @@ std::string WriteWholeFile(const std::string& path, const std::string& bytes) {
   } else {
     files.Abandon(number);
   }
-  return error == kNoError ? "" : path + " could not be written: " + ErrorText(error);
+  return error == kNoError ? "" : ShownPath(path) + " could not be written: " + ErrorText(error);
 }
 
 void ReadTextLine(int16_t fileNumber, std::string& line) {

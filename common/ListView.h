@@ -20,6 +20,9 @@ struct ColumnHeader {
 struct ListSubItem {
   std::string text;
   bool Bold = false;
+  // What is out of the ordinary about it, in a few words; empty for nothing. The screen sets such a
+  // text off. Files and paper have the text alone.
+  std::string Remark{};
 };
 
 struct ListItem {

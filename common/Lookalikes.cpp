@@ -2,6 +2,7 @@
 
 #include <set>
 
+#include "common/PathText.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
 
@@ -19,8 +20,9 @@ std::set<std::string>& Told() {
 void TellLookalike(const std::string& path) {
   Lookalike found;
   if (!Os().directories.FindLookalike(path, &found) || !Told().insert(found.taken).second) return;
-  Ui().Show({"The name \"" + path + "\" fits two entries that differ only in capital letters:\n\"" +
-                 found.taken + "\" is used, and \"" + found.other +
+  Ui().Show({"The name \"" + ShownPath(path) +
+                 "\" fits two entries that differ only in capital letters:\n\"" +
+                 ShownPath(found.taken) + "\" is used, and \"" + ShownPath(found.other) +
                  "\" is not.\nPlease rename one of them.",
              MessageIcon::kExclamation});
 }

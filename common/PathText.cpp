@@ -1,5 +1,7 @@
 #include "common/PathText.h"
 
+#include <algorithm>
+
 namespace logchecker {
 
 namespace {
@@ -32,6 +34,15 @@ std::string GetPathPart(std::string_view path, bool withSeparator) {
                                                          : path.substr(0, separator));
   if (withSeparator) folder += '\\';
   return folder;
+}
+
+std::string ShownPath(std::string path) {
+  const size_t first = path.find_first_of(kSeparators);
+  if (first != std::string::npos) {
+    const char separator = path[first];
+    std::replace(path.begin(), path.end(), separator == '/' ? '\\' : '/', separator);
+  }
+  return path;
 }
 
 }  // namespace logchecker

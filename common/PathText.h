@@ -22,4 +22,7 @@ std::string GetFileTitlePart(std::string_view path);
 // this is meant.
 std::string GetPathPart(std::string_view path, bool withSeparator);
 
+// A station path for people, with one separator throughout: the first that it has.
+std::string ShownPath(std::string path);
+
 }  // namespace logchecker

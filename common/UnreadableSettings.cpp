@@ -2,6 +2,7 @@
 
 #include "common/FileHelpers.h"
 #include "common/Lookalikes.h"
+#include "common/PathText.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
 #include "platform/StationText.h"
@@ -14,7 +15,7 @@ std::string PathOfSettings(const std::string& file) {
 }
 
 std::string WhyUnreadable(const std::string& file) {
-  const std::string path = PathOfSettings(file);
+  const std::string path = ShownPath(PathOfSettings(file));
   switch (Os().profiles.StateOf(file)) {
     case ProfileState::kNoFile:
       return "there are no settings: " + path + " is a directory, a pipe or a device";

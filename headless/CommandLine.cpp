@@ -2,21 +2,36 @@
 
 #include <CLI/CLI.hpp>  // IWYU pragma: keep
 #include <algorithm>
-#include <array>
-#include <charconv>
+#include <set>
 
-#include "common/Dates.h"
-#include "common/GeneralSettings.h"
 #include "common/VersionData.h"
-#include "headless/Logcheck.h"
+#include "headless/VerbOptions.h"
+#include "headless/Verdict.h"
 #include "platform/StationText.h"
 
 namespace logchecker {
 
 namespace {
 
-constexpr int32_t kMostDays = 3660;
-constexpr std::array<const char*, 4> kVerbs = {"check", "show", "cart", "sample"};
+struct VerbEntry {
+  const char* name;
+  Verb verb;
+  void (*add)(CLI::App& app, Options& options, RawTexts& raw);
+};
+
+// In the order of the help.
+constexpr VerbEntry kVerbs[] = {
+    {"check", Verb::kCheck, AddCheckVerb},    {"stations", Verb::kStations, AddStationsVerb},
+    {"board", Verb::kBoard, AddBoardVerb},    {"watch", Verb::kWatch, AddWatchVerb},
+    {"show", Verb::kShow, AddShowVerb},       {"cart", Verb::kCart, AddCartVerb},
+    {"sample", Verb::kSample, AddSampleVerb},
+};
+
+const VerbEntry* FindVerb(const std::string& name) {
+  const auto* entry = std::find_if(std::begin(kVerbs), std::end(kVerbs),
+                                   [&](const VerbEntry& each) { return name == each.name; });
+  return entry == std::end(kVerbs) ? nullptr : entry;
+}
 
 bool BeginsWithoutCase(const std::string& text, const std::string& beginning) {
   return ToUpper(text.substr(0, beginning.size())) == beginning;
@@ -24,50 +39,6 @@ bool BeginsWithoutCase(const std::string& text, const std::string& beginning) {
 
 bool IsSettingsSwitch(const std::string& argument) {
   return BeginsWithoutCase(argument, "/LI:") || BeginsWithoutCase(argument, "/PLAYERS=");
-}
-
-bool ReadNumber(std::string_view text, int32_t* number) {
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), *number);
-  return !text.empty() && result.ec == std::errc() && result.ptr == text.data() + text.size();
-}
-
-// YYYY-MM-DD as a day number.
-std::optional<int32_t> ReadDate(std::string_view text) {
-  constexpr size_t kDateLength = 10;
-  int32_t year = 0;
-  int32_t month = 0;
-  int32_t day = 0;
-  const bool shaped = text.size() == kDateLength && text[4] == '-' && text[7] == '-' &&
-                      ReadNumber(text.substr(0, 4), &year) &&
-                      ReadNumber(text.substr(5, 2), &month) && ReadNumber(text.substr(8), &day);
-  const std::chrono::year_month_day date{std::chrono::year{year},
-                                         std::chrono::month{static_cast<unsigned>(month)},
-                                         std::chrono::day{static_cast<unsigned>(day)}};
-  if (!shaped || !date.ok()) return std::nullopt;
-  const int32_t number = DayOfDate(date);
-  return number < kFirstDay ? std::nullopt : std::optional(number);
-}
-
-// The texts that CLI11 fills; what they mean is settled afterwards.
-struct RawTexts {
-  std::string date;
-  std::string output;
-  std::string format = "text";
-  std::vector<std::string> carts;
-};
-
-void AddDate(CLI::App* app, RawTexts* raw) {
-  app->add_option("--date", raw->date, "The day, as YYYY-MM-DD; tomorrow without it")
-      ->option_text("YYYY-MM-DD");
-}
-
-void AddDays(CLI::App* app, Options* options, const char* help) {
-  app->add_option("--days", options->days, help)->check(CLI::Range(1, kMostDays))->option_text("N");
-}
-
-void AddSampleSize(CLI::App* app, const char* name, std::optional<int32_t>* size, int32_t most,
-                   const char* help) {
-  app->add_option(name, *size, help)->check(CLI::Range(1, most))->option_text("N");
 }
 
 void Describe(CLI::App& app, Options& options, RawTexts& raw) {
@@ -80,46 +51,17 @@ void Describe(CLI::App& app, Options& options, RawTexts& raw) {
       ->option_text("FOLDER");
   app.require_subcommand(1);
   app.fallthrough();
+  for (const VerbEntry& entry : kVerbs) entry.add(app, options, raw);
+}
 
-  CLI::App* check =
-      app.add_subcommand("check", "Checks a day, or several; what is done by default");
-  AddDate(check, &raw);
-  AddDays(check, &options, "How many days from there on");
-  check->add_option("--format", raw.format, "text (for people), csv or json")
-      ->check(CLI::IsMember({"text", "csv", "json"}))
-      ->option_text("FORMAT");
-  check->add_option("--output", raw.output, "Writes to FILE, whole or not at all")
-      ->option_text("FILE");
-  check->add_flag("--create-missing", options.createMissing,
-                  "Makes list files of the cart store that are missing");
-
-  CLI::App* show = app.add_subcommand("show", "Prints one split's grid, tab separated");
-  show->add_option("--split", options.split, "The split's number, from 1 to 10")
-      ->check(CLI::Range(1, static_cast<int>(kMostSplits)))
-      ->required()
-      ->option_text("N");
-  AddDate(show, &raw);
-
-  CLI::App* cart = app.add_subcommand("cart", "Prints cart records, a line each");
-  cart->add_option("number", raw.carts, "Cart numbers")->required()->option_text("NUMBER...");
-
-  CLI::App* sample = app.add_subcommand("sample", "Writes a made-up station to try the program on");
-  sample->add_option("folder", options.sampleFolder, "The folder to make")
-      ->required()
-      ->option_text("FOLDER");
-  AddDate(sample, &raw);
-  AddDays(sample, &options, "Logs for how many days");
-  AddSampleSize(sample, "--splits", &options.sampleSizes.splits, kMostSplits, "Splits, 1 to 10");
-  AddSampleSize(sample, "--breaks", &options.sampleSizes.breaks, 1440, "Breaks a day");
-  AddSampleSize(sample, "--adverts", &options.sampleSizes.adverts, 100, "Adverts a break");
+std::vector<std::string> WithoutSettingsSwitches(std::vector<std::string> arguments) {
+  arguments.erase(std::remove_if(arguments.begin(), arguments.end(), IsSettingsSwitch),
+                  arguments.end());
+  return arguments;
 }
 
 // CLI11 wants the verb named; "check" may be left out.
-std::vector<std::string> WithVerb(const std::vector<std::string>& arguments) {
-  std::vector<std::string> result;
-  for (const std::string& argument : arguments) {
-    if (!IsSettingsSwitch(argument)) result.push_back(argument);
-  }
+std::vector<std::string> WithVerb(std::vector<std::string> result) {
   size_t place = 0;
   while (place < result.size()) {
     const std::string& argument = result[place];
@@ -135,8 +77,7 @@ std::vector<std::string> WithVerb(const std::vector<std::string>& arguments) {
   const bool wantsHelp =
       place < result.size() &&
       (result[place] == "--help" || result[place] == "-h" || result[place] == "--version");
-  const bool hasVerb = place < result.size() &&
-                       std::find(kVerbs.begin(), kVerbs.end(), result[place]) != kVerbs.end();
+  const bool hasVerb = place < result.size() && FindVerb(result[place]) != nullptr;
   if (!wantsHelp && !hasVerb) result.insert(result.begin() + static_cast<long>(place), "check");
   return result;
 }
@@ -154,33 +95,34 @@ std::string JoinArguments(const std::vector<std::string>& arguments) {
 
 ParsedArguments Refuse(const std::string& message) { return {std::nullopt, kTrouble, message}; }
 
-// An argument as the person typed it, for a message.
-std::string Quoted(const std::string& argument) {
-  std::string text;
-  FromArgument(argument, &text);
-  return '"' + text + '"';
+// Adds the names of the options that take a value, those of the verbs among them.
+void AddNamesWithValue(CLI::App& app, std::set<std::string>* names) {
+  for (const CLI::Option* option : app.get_options()) {
+    if (option->get_items_expected_max() == 0) continue;
+    for (const std::string& name : option->get_lnames()) names->insert("--" + name);
+  }
+  for (CLI::App* verb : app.get_subcommands({})) AddNamesWithValue(*verb, names);
 }
 
-// Settles what the texts mean; the refusal otherwise.
-std::optional<ParsedArguments> TakeTexts(const RawTexts& raw, Options& options) {
-  if (!raw.date.empty()) {
-    options.day = ReadDate(raw.date);
-    if (!options.day) return Refuse(Quoted(raw.date) + " is no date of the form YYYY-MM-DD");
-  }
-  const int32_t first = options.day.value_or(Today() + 1);
-  if (first > kLastDay - (options.days - 1)) {
-    return Refuse("--days " + std::to_string(options.days) + " goes beyond 9999-12-31");
-  }
-  options.format = raw.format == "csv"    ? ReportFormat::kCsv
-                   : raw.format == "json" ? ReportFormat::kJson
-                                          : ReportFormat::kText;
-  if (!FromArgument(raw.output, &options.output)) {
-    return Refuse("the name of the output file has characters that the code page can't hold");
-  }
-  for (const std::string& text : raw.carts) {
-    int32_t number = 0;
-    if (!ReadNumber(text, &number)) return Refuse(Quoted(text) + " is no cart number");
-    options.carts.push_back(number);
+// What is empty or lacks its value is a script's mistake, such as a variable that was never set,
+// and what follows it is not to be taken for something else. A value may begin with two dashes only
+// behind "=". The refusal, or nothing.
+std::optional<ParsedArguments> RefuseEmptyOnes(CLI::App& app,
+                                               const std::vector<std::string>& arguments) {
+  std::set<std::string> withValue;
+  AddNamesWithValue(app, &withValue);
+  for (size_t i = 0; i < arguments.size(); ++i) {
+    const std::string& argument = arguments[i];
+    if (argument.empty()) return Refuse("an argument is empty: \"\" (see logcheck --help)");
+    const size_t equals = argument.find('=');
+    if (equals + 1 == argument.size() && withValue.count(argument.substr(0, equals)) > 0) {
+      return Refuse(argument.substr(0, equals) + " is empty (see logcheck --help)");
+    }
+    if (withValue.count(argument) == 0) continue;
+    if (i + 1 == arguments.size() || arguments[i + 1].rfind("--", 0) == 0) {
+      return Refuse(argument + " has no value (see logcheck --help)");
+    }
+    if (arguments[++i].empty()) return Refuse(argument + " is empty (see logcheck --help)");
   }
   return std::nullopt;
 }
@@ -193,7 +135,9 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments) {
   CLI::App app;
   app.name("logcheck");
   Describe(app, options, raw);
-  std::vector<std::string> reversed = WithVerb(arguments);
+  const std::vector<std::string> own = WithoutSettingsSwitches(arguments);
+  if (auto refusal = RefuseEmptyOnes(app, own)) return *refusal;
+  std::vector<std::string> reversed = WithVerb(own);
   std::reverse(reversed.begin(), reversed.end());
   try {
     app.parse(reversed);
@@ -207,13 +151,12 @@ ParsedArguments ParseArguments(const std::vector<std::string>& arguments) {
     FromArgument(error.what(), &text);
     return Refuse(text + " (see logcheck --help)");
   }
-  const std::string verb = app.get_subcommands()[0]->get_name();
-  options.verb = verb == "show"     ? Verb::kShow
-                 : verb == "cart"   ? Verb::kCart
-                 : verb == "sample" ? Verb::kSample
-                                    : Verb::kCheck;
-  if (auto refusal = TakeTexts(raw, options)) return *refusal;
+  options.verb = FindVerb(app.get_subcommands()[0]->get_name())->verb;
+  if (auto refusal = TakeTexts(raw, options)) return Refuse(*refusal);
   options.wholeLine = JoinArguments(arguments);
+  for (const std::string& argument : arguments) {
+    if (IsSettingsSwitch(argument)) options.settingsSwitches.push_back(JoinArguments({argument}));
+  }
   return {options, 0, ""};
 }
 

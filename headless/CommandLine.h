@@ -6,12 +6,13 @@
 #include <string>
 #include <vector>
 
+#include "headless/DayReport.h"
 #include "sample/SampleStation.h"
 
 namespace logchecker {
 
-enum class Verb { kCheck, kShow, kCart, kSample };
-enum class ReportFormat { kText, kCsv, kJson };
+enum class Verb { kCheck, kStations, kBoard, kWatch, kShow, kCart, kSample };
+enum class ReportFormat { kText, kCsv, kJson, kHtml };
 
 struct Options {
   Verb verb = Verb::kCheck;
@@ -21,10 +22,26 @@ struct Options {
   ReportFormat format = ReportFormat::kText;
   std::string output;  // station path; empty for standard output
   bool createMissing = false;
+  bool skipMissing = false;  // leaves out days that have no log yet
+  bool dated = false;        // CSV with a date column for one day too
+  std::string station;       // its name; empty for that of the settings folder
+  std::vector<WarningKind> accepted;
+  std::string stationList;  // station path
+  int32_t jobs = 0;         // stations at once; 0 for as many as there are processors
+  int32_t timeoutSeconds = 600;
+  std::vector<std::string> settingsSwitches;  // /LI: and /PLAYERS=, in station text
+  int32_t every = 10;                         // seconds between two looks of a watch
+  std::string run;  // a watch's command for its reports, as given; empty for none
   int16_t split = 0;
   std::vector<int32_t> carts;
+  std::vector<std::string> reports;  // of a board, as given
+  std::string title;                 // of a board; empty for one of its own
+  std::optional<int32_t> staleHours;
   std::string sampleFolder;  // as given
   SampleSizes sampleSizes;
+  std::optional<int32_t> sampleMistakes;
+  int32_t sampleSeed = 0;
+  int32_t sampleMissingDays = 0;
   std::string wholeLine;  // the arguments joined by blanks, in station text
 };
 

@@ -3,9 +3,12 @@
 #include <nlohmann/json.hpp>
 
 #include "common/DatePicture.h"
+#include "common/PathText.h"
 #include "common/TextHelpers.h"
 #include "common/VersionData.h"
+#include "headless/JsonText.h"
 #include "headless/Reports.h"
+#include "headless/Verdict.h"
 #include "platform/StationText.h"
 
 namespace logchecker {
@@ -36,12 +39,17 @@ Json SplitJson(const SplitReport& split) {
                       {"reference", Text(advert.reference)},
                       {"position", std::stoll(advert.position)}});
   }
-  return {{"number", split.number},     {"name", Text(split.name)}, {"log", Text(split.logPath)},
-          {"loaded", split.loaded},     {"breaks", split.breaks},   {"adverts", split.adverts},
+  return {{"number", split.number},
+          {"name", Text(split.name)},
+          {"log", Text(ShownPath(split.logPath))},
+          {"loaded", split.loaded},
+          {"breaks", split.breaks},
+          {"adverts", split.adverts},
+          {"withoutAudio", split.silentAdverts.size()},
           {"cartsWithoutAudio", silent}};
 }
 
-Json MismatchJson(const BreakMismatch& mismatch, const ListItem& row) {
+Json LengthsJson(const BreakMismatch& mismatch, const ListItem& row) {
   Json lengths = Json::array();
   for (size_t i = 0; i < mismatch.Lengths.size(); ++i) {
     if (!mismatch.Lengths[i].found) {
@@ -51,57 +59,102 @@ Json MismatchJson(const BreakMismatch& mismatch, const ListItem& row) {
     lengths.push_back({{"seconds", Seconds(mismatch.Lengths[i].seconds)},
                        {"text", Text(std::string(Trim(row.ListSubItems[i].text)))}});
   }
-  return {{"seconds", Seconds(mismatch.Time)}, {"time", Text(row.text)}, {"lengths", lengths}};
+  return lengths;
 }
 
-Json DayJson(const DayReport& day) {
-  Json json = {{"date", IsoDate(day.day)}};
-  if (!day.trouble.empty()) {
-    json["trouble"] = Text(day.trouble);
-    return json;
-  }
-  json["toleranceSeconds"] = day.toleranceMS / 1000.0;
-  json["splits"] = Json::array();
-  for (const SplitReport& split : day.splits) json["splits"].push_back(SplitJson(split));
-  json["mismatches"] = Json::array();
-  for (size_t i = 0; i < day.mismatches.size(); ++i) {
-    json["mismatches"].push_back(MismatchJson(day.mismatches[i], day.results.ListItems[i]));
+Json AdvertsJson(const BreakAdverts& splits) {
+  Json json = Json::array();
+  for (const auto& adverts : splits) {
+    if (!adverts) {
+      json.push_back(nullptr);
+      continue;
+    }
+    Json list = Json::array();
+    for (const AdvertReport& advert : *adverts) {
+      list.push_back({{"row", advert.row},
+                      {"cart", advert.cart},
+                      {"description", Text(advert.description)},
+                      {"reference", Text(advert.reference)},
+                      {"length", Seconds(advert.length)},
+                      {"audio", advert.audio}});
+    }
+    json.push_back(std::move(list));
   }
   return json;
 }
 
-// The library writes these as they are, which is good JSON; but a terminal that shows it would obey
-// them.
-std::string WithControlsEscaped(const std::string& utf8) {
-  constexpr char kDelete = '\x7F';
-  constexpr char kLead = '\xC2';  // of the characters 0x80 to 0xBF
-  constexpr char kLastControl = '\x9F';
-  constexpr char kDigits[] = "0123456789abcdef";
-  std::string escaped;
-  const auto escape = [&](char c) {
-    const auto code = static_cast<unsigned char>(c);
-    escaped += "\\u00";
-    escaped += kDigits[code >> 4U];
-    escaped += kDigits[code & 0x0FU];
-  };
-  for (size_t i = 0; i < utf8.size(); ++i) {
-    if (utf8[i] == kDelete) {
-      escape(utf8[i]);
-    } else if (utf8[i] == kLead && utf8[i + 1] <= kLastControl) {
-      escape(utf8[++i]);
-    } else {
-      escaped += utf8[i];
-    }
+Json MismatchJson(const BreakMismatch& mismatch, const ListItem& row, const BreakAdverts& adverts) {
+  Json json;
+  if (HasNoTime(mismatch)) {
+    json = {{"seconds", nullptr}, {"time", nullptr}, {"reason", kNotCompared}};
+  } else {
+    json = {{"seconds", Seconds(mismatch.Time)}, {"time", Text(row.text)}};
   }
-  return escaped;
+  json["lengths"] = LengthsJson(mismatch, row);
+  json["adverts"] = AdvertsJson(adverts);
+  return json;
+}
+
+Json WarningsJson(const DayReport& day) {
+  Json json = Json::array();
+  for (const Warning& warning : day.warnings) {
+    json.push_back({{"kind", NameOf(warning.kind)},
+                    {"split", warning.split > 0 ? Json(warning.split) : Json(nullptr)},
+                    {"text", Text(warning.text)}});
+  }
+  return json;
+}
+
+Json CountsJson(const DayReport& day) {
+  int64_t breaks = 0;
+  int64_t adverts = 0;
+  size_t withoutAudio = 0;
+  for (const SplitReport& split : day.splits) {
+    breaks += split.breaks;
+    adverts += split.adverts;
+    withoutAudio += split.silentAdverts.size();
+  }
+  return {{"breaks", breaks},
+          {"adverts", adverts},
+          {"withoutAudio", withoutAudio},
+          {"mismatches", day.mismatches.size()},
+          {"warnings", day.warnings.size()}};
+}
+
+Json DayJson(const DayReport& day, const std::vector<WarningKind>& accepted) {
+  Json json = {{"date", IsoDate(day.day)}, {"code", CodeOf(day, accepted)}};
+  if (!day.trouble.empty()) {
+    json["trouble"] = Text(day.trouble);
+    json["noLogYet"] = day.noLogYet;
+    json["warnings"] = WarningsJson(day);
+    return json;
+  }
+  json["toleranceSeconds"] = day.toleranceMS / 1000.0;
+  json["counts"] = CountsJson(day);
+  json["splits"] = Json::array();
+  for (const SplitReport& split : day.splits) json["splits"].push_back(SplitJson(split));
+  json["warnings"] = WarningsJson(day);
+  json["mismatches"] = Json::array();
+  for (size_t i = 0; i < day.mismatches.size(); ++i) {
+    json["mismatches"].push_back(
+        MismatchJson(day.mismatches[i], day.results.ListItems[i], day.adverts[i]));
+  }
+  return json;
 }
 
 }  // namespace
 
-std::string JsonReport(const std::vector<DayReport>& days) {
-  Json json = {{"program", "logcheck"}, {"version", kVersion}, {"days", Json::array()}};
-  for (const DayReport& day : days) json["days"].push_back(DayJson(day));
-  return WithControlsEscaped(json.dump(2)) + "\n";
+std::string JsonReport(const CheckReport& report) {
+  Json json = {{"program", "logcheck"},
+               {"version", kVersion},
+               {"schema", kJsonSchema},
+               {"station", Text(report.station)},
+               {"settings", Text(ShownPath(report.settings))},
+               {"checkedAt", report.checkedAt},
+               {"code", CodeOf(report.days, report.accepted)},
+               {"days", Json::array()}};
+  for (const DayReport& day : report.days) json["days"].push_back(DayJson(day, report.accepted));
+  return JsonText(json);
 }
 
 }  // namespace logchecker

@@ -2,12 +2,13 @@
 
 #include <set>
 
-#include "cartstore/AudioSettings.h"
 #include "cartstore/Velmar_Cart_Routines.h"
+#include "common/Dates.h"
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
 #include "common/Lookalikes.h"
+#include "common/PathText.h"
 #include "common/UnreadableSettings.h"
 #include "platform/Platform.h"
 #include "shell/LoadGeneralSettings.h"
@@ -17,7 +18,37 @@ namespace logchecker {
 
 namespace {
 
-// Why the file can't be read, as an error number.
+void RequireReadable(const std::string& file, TerminalUi& ui) {
+  TellLookalike(PathOfSettings(file));
+  WriteWarnings(ui);
+  const std::string reason = WhyUnreadable(file);
+  if (!reason.empty()) throw Trouble(reason);
+}
+
+void RequireSettings(TerminalUi& ui) {
+  RequireReadable(kDefaultSettingsFile, ui);
+  const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
+  if (!(GetFileLength(file) > 0))
+    throw Trouble("there are no settings: " + ShownPath(file) + " is missing or empty");
+  if (ReadingError(file) != kNoError)
+    throw Trouble("the settings can't be read: " + ShownPath(file));
+}
+
+void ReplaceAll(std::string& text, const std::string& from, const std::string& to) {
+  if (from.empty() || from == to) return;
+  for (size_t at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+    text.replace(at, from.size(), to);
+  }
+}
+
+std::string Joined(const std::vector<std::string>& texts) {
+  std::string line;
+  for (const std::string& text : texts) line += (line.empty() ? "" : "; ") + text;
+  return line;
+}
+
+}  // namespace
+
 int32_t ReadingError(const std::string& path) {
   Files& files = Os().files;
   int16_t file = 0;
@@ -29,29 +60,6 @@ int32_t ReadingError(const std::string& path) {
   return error;
 }
 
-void RequireReadable(const std::string& file, TerminalUi& ui) {
-  TellLookalike(PathOfSettings(file));
-  ui.WriteWarnings();
-  const std::string reason = WhyUnreadable(file);
-  if (!reason.empty()) throw Trouble(reason);
-}
-
-void RequireSettings(TerminalUi& ui) {
-  RequireReadable(kDefaultSettingsFile, ui);
-  const std::string file = GetWindowsFolder() + "\\" + kDefaultSettingsFile;
-  if (!(GetFileLength(file) > 0))
-    throw Trouble("there are no settings: " + file + " is missing or empty");
-  if (ReadingError(file) != kNoError) throw Trouble("the settings can't be read: " + file);
-}
-
-std::string Joined(const std::vector<std::string>& texts) {
-  std::string line;
-  for (const std::string& text : texts) line += (line.empty() ? "" : "; ") + text;
-  return line;
-}
-
-}  // namespace
-
 void ReadStationSettings(const Options& options, TerminalUi& ui) {
   SetCommandLine(options.wholeLine);
   if (!options.settingsFolder.empty() && !Os().system.SetWindowsFolder(options.settingsFolder)) {
@@ -62,27 +70,43 @@ void ReadStationSettings(const Options& options, TerminalUi& ui) {
   RequireReadable(gSettingsFile, ui);
 }
 
+int32_t FirstDay(const Options& options) { return options.day.value_or(Today() + 1); }
+
+std::vector<std::string> ShownMessages(std::vector<std::string> messages) {
+  for (std::string& message : messages) {
+    for (const AudiowallPart& part : gAudiowallParts) {
+      ReplaceAll(message, part.FullFileName, ShownPath(part.FullFileName));
+      ReplaceAll(message, part.Path, ShownPath(part.Path));
+    }
+  }
+  return messages;
+}
+
+void WriteWarnings(TerminalUi& ui) {
+  for (const std::string& message : ShownMessages(ui.TakeMessages())) ui.Warn(message);
+}
+
 void OpenStore(TerminalUi& ui) {
   RequireReadable(kFamilySettingsFile, ui);
   LoadAudioSettings(kFamilySettingsFile, "");
   RequireReadable(AudiowallSettingsFile(), ui);
-  const bool opened = OpenAudiowall(0, false) == 0;
-  const std::vector<std::string> messages = ui.TakeMessages();
-  if (!opened) {
-    const std::string reason =
-        messages.empty() ? "NoCarts in " + AudiowallSettingsFile() + " leaves no part in use"
-                         : Joined(messages);
-    throw Trouble("the cart store of " + GetWindowsFolder() + "\\" + kFamilySettingsFile +
-                  " can't be opened: " + reason);
+  if (OpenAudiowall(0, false) == 0) {
+    WriteWarnings(ui);
+    return;
   }
-  for (const std::string& message : messages) WriteErrorLine("warning: " + message);
-  WarnOfUnreadableParts();
+  const std::vector<std::string> messages = ShownMessages(ui.TakeMessages());
+  const std::string reason = messages.empty() ? "NoCarts in " + ShownPath(AudiowallSettingsFile()) +
+                                                    " leaves no part in use"
+                                              : Joined(messages);
+  throw Trouble("the cart store of " + ShownPath(GetWindowsFolder() + "\\" + kFamilySettingsFile) +
+                " can't be opened: " + reason);
 }
 
 // A part that once had its file is looked at even where a read has failed since: the next cart of
 // it would try again.
-void WarnOfUnreadableParts() {
+std::vector<std::string> WarnOfUnreadableParts() {
   static std::set<int16_t> told;
+  std::vector<std::string> warnings;
   for (int16_t part = 1; part <= PartsInUse(); ++part) {
     const AudiowallPart& entry = PartEntry(part);
     CartRecord record{};
@@ -92,12 +116,13 @@ void WarnOfUnreadableParts() {
       told.erase(part);
       continue;
     }
-    if (!told.insert(part).second) continue;
     // Without an open file that number says nothing.
     if (error == kBadFileNumber) error = ReadingError(entry.FullFileName);
-    WriteErrorLine("warning: part " + std::to_string(part) + " of the cart store can't be read: " +
-                   entry.FullFileName + ": " + ErrorText(error));
+    warnings.push_back("part " + std::to_string(part) + " of the cart store can't be read: " +
+                       ShownPath(entry.FullFileName) + ": " + ErrorText(error));
+    if (told.insert(part).second) WriteErrorLine("warning: " + warnings.back());
   }
+  return warnings;
 }
 
 void CloseStation() {

@@ -1,6 +1,10 @@
 // Getting a station ready for the headless program.
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 #include "common/Trouble.h"  // IWYU pragma: export
 #include "headless/CommandLine.h"
 #include "headless/TerminalUi.h"
@@ -12,12 +16,25 @@ namespace logchecker {
 void ReadStationSettings(const Options& options, TerminalUi& ui);
 
 // Reads the audio settings and opens the cart store. What is missing of it beside parts that can be
-// used becomes warnings; Trouble when none can.
+// used is a warning; throws Trouble when none can.
 void OpenStore(TerminalUi& ui);
 
+// Messages of the store for people: its paths with one form of separator.
+std::vector<std::string> ShownMessages(std::vector<std::string> messages);
+
+// Takes what has been shown and warns of it.
+void WriteWarnings(TerminalUi& ui);
+
+// The day that was asked for, or tomorrow.
+int32_t FirstDay(const Options& options);
+
 // A list file that can't be read is a warning: its carts pass for carts without audio. Each is
-// warned of once, and again when it could be read in between.
-void WarnOfUnreadableParts();
+// written once, and again when it could be read in between. Gives a line for each part that can't
+// be read now.
+std::vector<std::string> WarnOfUnreadableParts();
+
+// Why the file can't be read, as an error number; 0 when it can.
+int32_t ReadingError(const std::string& path);
 
 void CloseStation();
 

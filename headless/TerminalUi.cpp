@@ -7,10 +7,25 @@
 
 namespace logchecker {
 
+namespace {
+
+int gQuiet = 0;
+
+}  // namespace
+
+std::string OneLine(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
+  return text;
+}
+
+QuietErrorLines::QuietErrorLines() { ++gQuiet; }
+
+QuietErrorLines::~QuietErrorLines() { --gQuiet; }
+
 void WriteErrorLine(const std::string& text) {
-  std::string line = "logcheck: " + text;
-  std::replace(line.begin(), line.end(), '\n', ' ');
-  WriteStandardError(line + "\n");
+  if (gQuiet > 0) return;
+  WriteStandardError("logcheck: " + OneLine(text) + "\n");
 }
 
 TerminalUi::TerminalUi(bool createMissing)
@@ -41,8 +56,11 @@ void TerminalUi::ShowProgress(int32_t value, int32_t maximum) {
 
 std::vector<std::string> TerminalUi::TakeMessages() { return std::exchange(messages_, {}); }
 
-void TerminalUi::WriteWarnings() {
-  for (const std::string& message : TakeMessages()) WriteErrorLine("warning: " + message);
+void TerminalUi::Warn(const std::string& text) {
+  WriteErrorLine("warning: " + text);
+  warnings_.push_back(text);
 }
+
+std::vector<std::string> TerminalUi::TakeWarnings() { return std::exchange(warnings_, {}); }
 
 }  // namespace logchecker

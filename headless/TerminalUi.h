@@ -8,8 +8,20 @@
 
 namespace logchecker {
 
+// Line ends as blanks.
+std::string OneLine(std::string text);
+
 // Writes "logcheck: " and `text` as one line on standard error: line feeds become blanks.
 void WriteErrorLine(const std::string& text);
+
+// For as long as it lives, WriteErrorLine writes nothing: what it would say stands in a report.
+class QuietErrorLines {
+ public:
+  QuietErrorLines();
+  ~QuietErrorLines();
+  QuietErrorLines(const QuietErrorLines&) = delete;
+  QuietErrorLines& operator=(const QuietErrorLines&) = delete;
+};
 
 // Keeps messages until they are taken. A question is cancelled, or answered Yes with
 // `createMissing`. Progress shows on a terminal alone.
@@ -28,8 +40,10 @@ class TerminalUi : public UserInterface {
 
   // The texts of the messages shown since the last call, in order.
   std::vector<std::string> TakeMessages();
-  // Takes them, and writes each as a warning.
-  void WriteWarnings();
+  // Writes the text as a warning, and keeps it for the report.
+  void Warn(const std::string& text);
+  // What was warned of since the last call, in order.
+  std::vector<std::string> TakeWarnings();
 
  private:
   bool createMissing_;
@@ -37,6 +51,7 @@ class TerminalUi : public UserInterface {
   int32_t shownPercent_ = 0;
   MousePointer pointer_ = MousePointer::kDefault;
   std::vector<std::string> messages_;
+  std::vector<std::string> warnings_;
   UserInterface& before_;
 };
 

@@ -13,6 +13,8 @@ class Clock {
 
   // The local date and time.
   virtual double Now() = 0;
+  // The date and time in UTC.
+  virtual double UtcNow() = 0;
   // Texts in the user's language, for a whole day number.
   virtual std::string ShortDate(int32_t day) = 0;
   virtual std::string LongDate(int32_t day) = 0;

@@ -8,4 +8,8 @@ namespace logchecker {
 // the program was started without stays without effect. Each main calls it first of all.
 void EndWithoutTemporaryFiles();
 
+// From here on a program that is told to end because somebody wants it to (from the keyboard, by a
+// service's manager) ends at once with exit code 0: to be ended is all it waits for.
+void EndWithSuccess();
+
 }  // namespace logchecker

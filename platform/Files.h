@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/FileStamp.h"
+
 namespace logchecker {
 
 // A file number runs from 1 to kLastFileNumber. FreeFile hands a number out and keeps it for the
@@ -70,6 +72,8 @@ class Files {
   virtual int32_t FileLength(const std::string& path, int64_t* length) = 0;
   // Time of the last change, local, as a date number (see Clock.h).
   virtual int32_t FileDateTime(const std::string& path, double* dateTime) = 0;
+  // What `path` leads to by now, links followed.
+  virtual FileStamp StampOf(const std::string& path) = 0;
   // Opens an existing file with no access rights asked and closes it at once. Works for a file that
   // another program holds open.
   virtual int32_t ProbeFile(const std::string& path) = 0;

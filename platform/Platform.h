@@ -6,6 +6,7 @@
 #include "platform/Directories.h"
 #include "platform/ErrorNumbers.h"  // IWYU pragma: export
 #include "platform/Files.h"
+#include "platform/Processes.h"
 #include "platform/ProfileFiles.h"
 #include "platform/RegistryCalls.h"
 #include "platform/Shell.h"
@@ -24,6 +25,7 @@ struct Platform {
   Clock& clock;
   WaveDevices& waveDevices;
   SystemFacts& system;
+  Processes& processes;
 };
 
 // The real system's; there is one for the whole run.

@@ -111,8 +111,11 @@ int32_t RowThatStopsTheLoad(const std::string& text, const std::string& chainCod
 
 }  // namespace
 
-void RequireLoadableLogs(const SamplePlan& plan) {
-  // The rows are the same on every day: only the carts differ.
+void RequireLoadableLogs(const SamplePlan& wanted) {
+  // The rows are the same on every day but for breaks that are missing by a drawn mistake, and
+  // without those a log only goes on further.
+  SamplePlan plan = wanted;
+  if (plan.mistakesADay) plan.mistakesADay = 0;
   constexpr int32_t kAnyDay = 0;
   for (int16_t n = 1; n <= plan.splits; ++n) {
     const SampleSplit& split = kSampleSplits[static_cast<size_t>(n - 1)];
@@ -138,7 +141,8 @@ void WriteSampleLogs(const SamplePlan& plan, const SampleStation& station,
     settings.Extension = split.extension;
     MakeSampleFolder(settings.LogSourceDirectory);
     if (n > 1 && SharesFile(n, static_cast<int16_t>(n - 1))) continue;
-    for (int32_t day = station.firstDay; day < station.firstDay + station.days; ++day) {
+    for (int32_t day = station.firstDay;
+         day < station.firstDay + station.days - station.missingDays; ++day) {
       WriteSampleFile(GetLogSourcePath(n, day, false), LogText(plan, n, day));
     }
   }

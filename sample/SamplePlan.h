@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -75,12 +76,22 @@ struct SamplePlan {
   int32_t breaks = 60;
   int32_t adverts = 5;
   bool individualListFiles = false;
-  std::vector<SampleMistake> mistakes;
+  std::vector<SampleMistake> mistakes;  // of every day
+  std::optional<int32_t> mistakesADay;  // drawn for each day instead
+  int32_t seed = 0;
 
   int32_t MinuteOf(int32_t breakIndex) const { return 1 + breakIndex * 1440 / breaks; }
 };
 
-SamplePlan PlanSample(const SampleSizes& sizes);
+SamplePlan PlanSample(const SampleStation& station);
+
+// The mistakes of a day, no two in the same break.
+std::vector<SampleMistake> MistakesOf(const SamplePlan& plan, int32_t day);
+// Fills in those that every day has; none where there is no room for them.
+void PlantMistakes(SamplePlan& plan);
+
+// What the draws of a day begin with.
+uint32_t SampleSeed(const SamplePlan& plan, int32_t day);
 
 // The breaks of one split on one day, with the mistakes that are planted there.
 std::vector<SampleBreak> PlanBreaks(const SamplePlan& plan, int16_t split, int32_t day);

@@ -34,6 +34,36 @@ std::string Days(const SampleStation& station) {
   return text;
 }
 
+std::string MistakesOfEveryDay(const SamplePlan& plan) {
+  if (plan.mistakes.empty()) return "No mistakes are planted: there is no room for them.\n";
+  std::string text = "Mistakes planted on every day:\n";
+  for (const SampleMistake& mistake : plan.mistakes) text += MistakeLine(plan, mistake) + "\n";
+  return text;
+}
+
+// Day by day, and of many only how many there are.
+std::string DrawnMistakes(const SamplePlan& plan, const SampleStation& station) {
+  constexpr int64_t kMostLines = 5000;
+  std::string text = std::to_string(*plan.mistakesADay) +
+                     " mistakes planted on each day, drawn with seed " + std::to_string(plan.seed) +
+                     ".\n";
+  const int32_t days = station.days - station.missingDays;
+  if (int64_t{*plan.mistakesADay} * days > kMostLines || *plan.mistakesADay == 0) return text;
+  for (int32_t day = station.firstDay; day < station.firstDay + days; ++day) {
+    text += IsoDate(day) + ":\n";
+    for (const SampleMistake& mistake : MistakesOf(plan, day)) {
+      text += MistakeLine(plan, mistake) + "\n";
+    }
+  }
+  return text;
+}
+
+std::string MissingDays(const SampleStation& station) {
+  if (station.missingDays == 0) return "";
+  return "There are no logs yet for the last " + std::to_string(station.missingDays) +
+         (station.missingDays == 1 ? " day.\n" : " days.\n");
+}
+
 }  // namespace
 
 void WriteSampleReadme(const SamplePlan& plan, const SampleStation& station,
@@ -45,9 +75,8 @@ void WriteSampleReadme(const SamplePlan& plan, const SampleStation& station,
   text +=
       "Larkfield's log has lines of the old form. Easton and Weston share one file, told apart\n"
       "by the TX chain codes EST and WST. Coast's file names end in a suffix.\n\n";
-  text += plan.mistakes.empty() ? "No mistakes are planted: there is no room for them.\n"
-                                : "Mistakes planted on every day:\n";
-  for (const SampleMistake& mistake : plan.mistakes) text += MistakeLine(plan, mistake) + "\n";
+  text += plan.mistakesADay ? DrawnMistakes(plan, station) : MistakesOfEveryDay(plan);
+  text += MissingDays(station);
   text += "\nThe store has " + std::to_string(kSampleCarts) + " carts in four parts. Carts 1 to " +
           std::to_string(kLastJingle) + " are jingles, adverts begin at " +
           std::to_string(kFirstAdvert) + ", carts " + std::to_string(kFirstSilentCart) + " to " +

@@ -1,6 +1,5 @@
 #include "sample/SampleStation.h"
 
-#include <algorithm>
 #include <random>
 
 #include "common/GeneralFunctions.h"
@@ -13,36 +12,14 @@ namespace logchecker {
 
 namespace {
 
-// Below this many breaks there is no room for every mistake.
-constexpr int32_t kLeastBreaksForMistakes = 12;
-
-// The split itself, or the first one where the station has fewer.
-int16_t SplitOrFirst(int16_t split, int16_t splits) { return split <= splits ? split : int16_t{1}; }
-
-bool MinuteAfterIsFree(const SamplePlan& plan, int32_t breakIndex) {
-  const int32_t late = plan.MinuteOf(breakIndex) + 1;
-  return breakIndex + 1 < plan.breaks && plan.MinuteOf(breakIndex + 1) > late;
-}
-
-void PlantMistakes(SamplePlan& plan) {
-  if (plan.splits < 2 || plan.breaks < kLeastBreaksForMistakes) return;
-  const int32_t sixth = plan.breaks / 6;
-  plan.mistakes = {
-      {SampleMistake::kMissing, 1, sixth},
-      {SampleMistake::kOver, 2, 2 * sixth},
-      {SampleMistake::kWithin, std::min<int16_t>(3, plan.splits), 3 * sixth},
-      {SampleMistake::kNoAudio, SplitOrFirst(4, plan.splits), 4 * sixth},
-  };
-  if (MinuteAfterIsFree(plan, 5 * sixth)) {
-    plan.mistakes.push_back({SampleMistake::kLate, SplitOrFirst(5, plan.splits), 5 * sixth});
+// The mistake of each break of one split; nothing for most.
+std::vector<const SampleMistake*> ByBreak(const std::vector<SampleMistake>& mistakes,
+                                          const SamplePlan& plan, int16_t split) {
+  std::vector<const SampleMistake*> byBreak(static_cast<size_t>(plan.breaks), nullptr);
+  for (const SampleMistake& mistake : mistakes) {
+    if (mistake.split == split) byBreak[static_cast<size_t>(mistake.breakIndex)] = &mistake;
   }
-}
-
-const SampleMistake* MistakeAt(const SamplePlan& plan, int16_t split, int32_t breakIndex) {
-  for (const SampleMistake& mistake : plan.mistakes) {
-    if (mistake.split == split && mistake.breakIndex == breakIndex) return &mistake;
-  }
-  return nullptr;
+  return byBreak;
 }
 
 void ApplyMistake(const SampleMistake& mistake, int32_t lastClass, SampleBreak& planned) {
@@ -64,23 +41,46 @@ void ApplyMistake(const SampleMistake& mistake, int32_t lastClass, SampleBreak& 
   }
 }
 
+void RequirePossible(const SamplePlan& plan, const SampleStation& station) {
+  if (plan.mistakesADay.value_or(0) > plan.breaks) {
+    throw Trouble(std::to_string(*plan.mistakesADay) + " mistakes don't fit into " +
+                  std::to_string(plan.breaks) + " breaks a day");
+  }
+  if (station.missingDays > station.days) {
+    throw Trouble(std::to_string(station.missingDays) + " days without a log are more than " +
+                  std::to_string(station.days));
+  }
+}
+
 }  // namespace
 
-SamplePlan PlanSample(const SampleSizes& sizes) {
+uint32_t SampleSeed(const SamplePlan& plan, int32_t day) {
+  // Seed 0 is the station of the documentation.
+  constexpr uint32_t kStep = 2654435761U;
+  return static_cast<uint32_t>(day) + static_cast<uint32_t>(plan.seed) * kStep;
+}
+
+SamplePlan PlanSample(const SampleStation& station) {
+  const SampleSizes& sizes = station.sizes;
   SamplePlan plan;
+  plan.seed = station.seed;
+  plan.mistakesADay = station.mistakes;
   plan.splits = static_cast<int16_t>(sizes.splits.value_or(plan.splits));
   plan.breaks = sizes.breaks.value_or(plan.breaks);
   plan.adverts = sizes.adverts.value_or(plan.adverts);
   plan.individualListFiles = !sizes.AnyGiven();
-  PlantMistakes(plan);
+  if (!plan.mistakesADay) PlantMistakes(plan);
   return plan;
 }
 
 std::vector<SampleBreak> PlanBreaks(const SamplePlan& plan, int16_t split, int32_t day) {
   std::vector<SampleBreak> breaks;
   // The classes are drawn alike for all splits, so that their breaks last the same.
-  std::mt19937 classes(static_cast<uint32_t>(day));
-  std::mt19937 picks(static_cast<uint32_t>(day) * 16U + static_cast<uint32_t>(split));
+  const uint32_t seed = SampleSeed(plan, day);
+  std::mt19937 classes(seed);
+  std::mt19937 picks(seed * 16U + static_cast<uint32_t>(split));
+  const std::vector<SampleMistake> mistakes = MistakesOf(plan, day);
+  const auto byBreak = ByBreak(mistakes, plan, split);
   for (int32_t i = 0; i < plan.breaks; ++i) {
     SampleBreak planned;
     planned.minute = plan.MinuteOf(i);
@@ -89,7 +89,7 @@ std::vector<SampleBreak> PlanBreaks(const SamplePlan& plan, int16_t split, int32
       lengthClass = static_cast<int32_t>(classes() % kLengthClasses);
       planned.carts.push_back(AdvertCart(lengthClass, static_cast<int32_t>(picks() >> 8U)));
     }
-    const SampleMistake* mistake = MistakeAt(plan, split, i);
+    const SampleMistake* mistake = byBreak[static_cast<size_t>(i)];
     if (mistake != nullptr && mistake->kind == SampleMistake::kMissing) continue;
     if (mistake != nullptr) ApplyMistake(*mistake, lengthClass, planned);
     breaks.push_back(std::move(planned));
@@ -99,7 +99,7 @@ std::vector<SampleBreak> PlanBreaks(const SamplePlan& plan, int16_t split, int32
 
 void MakeSampleFolder(const std::string& path) {
   if (!DirectoryExists(path) && !CreatePath(path, true) && !DirectoryExists(path)) {
-    throw Trouble("the folder " + path + " can't be made");
+    throw Trouble("the folder " + ShownPath(path) + " can't be made");
   }
 }
 
@@ -123,14 +123,16 @@ void WriteSampleStation(const std::string& folder, const SampleStation& station)
   const std::string base = Os().system.WindowsFolder();
   constexpr size_t kLongestBelow = 40;  // of the folders that the settings name
   if (base.size() + kLongestBelow >= kTextBufferLength) {
-    throw Trouble("the sample folder's name is too long for the settings: " + base);
+    throw Trouble("the sample folder's name is too long for the settings: " + ShownPath(base));
   }
   for (const char* name : {kDefaultSettingsFile, kFamilySettingsFile}) {
     if (GetFileLength(base + "\\" + name) >= 0 && GetFileLength(base + kSampleMarker) < 0) {
-      throw Trouble(base + " holds the settings of a station; the sample does not replace them");
+      throw Trouble(ShownPath(base) +
+                    " holds the settings of a station; the sample does not replace them");
     }
   }
-  const SamplePlan plan = PlanSample(station.sizes);
+  const SamplePlan plan = PlanSample(station);
+  RequirePossible(plan, station);
   RequireLoadableLogs(plan);
   MakeSampleFolder(base);
   WriteSampleReadme(plan, station, base);

@@ -21,6 +21,8 @@ def tests_that_are_there():
         found |= {f"{suite}.{name}" for suite, name in MACRO.findall(source.read_text())}
     found |= {f"{path.parent.name}.{path.name.removesuffix('_test.py')}"
               for path in TESTS.glob("*/*_test.py")}
+    found |= {f"{path.parent.name}.{path.name.removesuffix('_test.mjs')}"
+              for path in TESTS.glob("*/*_test.mjs")}
     return found
 
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the packages in build/packages: the Debian package of all programs, and the zip of logcheck.exe.
-#   scripts/package.sh           both
-#   scripts/package.sh --check   and installs, runs and removes the Debian package in a root of its own
+# Makes the packages in build/packages: the Debian packages, with windows and without, and the zip of logcheck.exe.
+#   scripts/package.sh           all of them
+#   scripts/package.sh --check   and installs, runs, upgrades and removes the Debian packages in roots of their own
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/tools.sh

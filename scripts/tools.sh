@@ -42,16 +42,39 @@ need_elsewhere() {
 plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
 build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev qt6-multimedia-dev libcups2-dev)
 test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev libjpeg-dev
-  python3 xvfb openbox xdotool xclip x11-utils imagemagick fonts-dejavu-core poppler-utils cups)
-windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest)
+  libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
+  fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils)
+windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest python3)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)
-fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev llvm)
+fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev libgumbo-dev llvm)
 coverage_packages=("${test_packages[@]}" gcovr)
 mutation_packages=("${test_packages[@]}" bubblewrap lld)
 memory_packages=("${build_packages[@]}" "${test_packages[@]}" valgrind)
+page_packages=("${plain_packages[@]}" chromium nodejs poppler-utils fonts-dejavu-core)
 benchmark_packages=("${build_packages[@]}" libbenchmark-dev python3 time xvfb)
+
+# need_page_tools: what looks at pages in a browser. The packages of npm are those of the lock file, to
+# the byte; they lie outside the checkout, in a folder that is named for that file, and
+# LOGCHECKER_PAGE_TOOLS says where.
+need_page_tools() {
+  need "${page_packages[@]}"
+  # Node.js from elsewhere than Debian brings its own.
+  command -v npm >/dev/null 2>&1 || need npm
+  local hash folder fresh
+  hash=$(cat tests/pages/package.json tests/pages/package-lock.json | sha256sum | cut -c1-16)
+  folder=${XDG_CACHE_HOME:-$HOME/.cache}/logchecker/pages-$hash
+  if [ ! -d "$folder" ]; then
+    mkdir -p "$(dirname "$folder")"
+    fresh=$(mktemp -d "$folder.XXXXXX")
+    cp tests/pages/package.json tests/pages/package-lock.json "$fresh"
+    npm ci --prefix "$fresh" --ignore-scripts --no-audit --no-fund --loglevel=error
+    # Whole or not at all; another run may have been quicker.
+    mv -T "$fresh" "$folder" 2>/dev/null || rm -rf "$fresh"
+  fi
+  export LOGCHECKER_PAGE_TOOLS=$folder
+}
 
 # build PRESET [TARGET...]: configures, when that has not been done, and builds.
 build() {

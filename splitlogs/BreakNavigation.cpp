@@ -1,4 +1,6 @@
 // How breaks are found in the grid, by time or by row, and selected.
+#include <optional>
+
 #include "splitlogs/SplitLog.h"
 
 namespace logchecker {
@@ -16,6 +18,9 @@ void SplitLog::SelectBreakByTime(float seconds) {
   FindEndofBreak(gridLog.Row(), last);
   if (gridLog.SelectionEndRow() != last) gridLog.SetSelectionEndRow(last);
   gridLog.SetSelectionEndColumn(kLogColumns - 1);
+  // The time 0 asks for the first break, whenever that is.
+  const bool found = seconds == 0 || (target > 0 && gridLog.RowTime(target) == seconds);
+  gridLog.SetMissedTime(found ? std::nullopt : std::optional(seconds));
 }
 
 void SplitLog::FindBeginningofBreak(int32_t row, int32_t& firstRow) const {

@@ -47,6 +47,7 @@ void LogGrid::SetRows(int32_t rows) {
   row_ = std::min(row_, count - 1);
   selectionEndRow_ = std::min(selectionEndRow_, count - 1);
   topRow_ = std::min(topRow_, count - 1);
+  if (count == 1) missedTime_.reset();
   TellChange();
 }
 
@@ -92,6 +93,13 @@ void LogGrid::SetRow(int32_t row) {
   RequireRow(row);
   row_ = row;
   selectionEndRow_ = row;
+  missedTime_.reset();
+  TellSelection();
+}
+
+void LogGrid::SetMissedTime(std::optional<float> seconds) {
+  if (missedTime_ == seconds) return;
+  missedTime_ = seconds;
   TellSelection();
 }
 

@@ -4,6 +4,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 
 #include "common/ListView.h"
@@ -69,6 +70,11 @@ class LogGrid {
   void SetSelectionEndRow(int32_t row);
   void SetSelectionEndColumn(int32_t column);
 
+  // The time, in seconds, that was looked for where the selection is another one's, since there is
+  // no break at it. Any other row that becomes current ends that.
+  std::optional<float> MissedTime() const { return missedTime_; }
+  void SetMissedTime(std::optional<float> seconds);
+
   // The first row below the header that is in view.
   int32_t TopRow() const { return topRow_; }
   void SetTopRow(int32_t row);
@@ -107,6 +113,7 @@ class LogGrid {
   int32_t column_ = 0;
   int32_t selectionEndRow_ = 0;
   int32_t selectionEndColumn_ = 0;
+  std::optional<float> missedTime_;
   int32_t topRow_ = 0;
   bool redraw_ = true;
   LogGridObserver* observer_ = nullptr;

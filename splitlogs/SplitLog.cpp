@@ -9,6 +9,7 @@
 #include "common/GeneralSettings.h"
 #include "common/Lookalikes.h"
 #include "common/Numbers.h"
+#include "common/PathText.h"
 #include "common/TextHelpers.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"
@@ -130,13 +131,23 @@ void SplitLog::UpdateInfo() {
 
 void SplitLog::CaptionChanged() {}
 
+void SplitLog::LogLoaded() {}
+
 void SplitLog::LoadLogFile() {
-  const SplitSettings& settings = SettingsOf(splitNumber_);
+  SplitSettings& settings = SettingsOf(splitNumber_);
   const std::string path = GetLogSourcePath(splitNumber_, settings.LogDate, false);
   TellLookalike(path);
   OpenLogFile(splitNumber_, path);
+  // An older log that stays open keeps its day.
+  if (settings.CurrentLogPath == path) settings.CurrentLogDay = settings.LogDate;
   gridLog.SetRows(1);
-  if (settings.LogFileNumber == 0) return;
+  shown_.reset();
+  if (settings.LogFileNumber != 0) ShowOpenLog();
+  LogLoaded();
+}
+
+void SplitLog::ShowOpenLog() {
+  const SplitSettings& settings = SettingsOf(splitNumber_);
   std::optional<PaintingHeldBack> heldBack(gridLog);
   const BusyPointer busy;
   try {
@@ -144,9 +155,10 @@ void SplitLog::LoadLogFile() {
   } catch (const RunTimeError& error) {
     const std::string where = error.concerning().empty() ? "" : ", " + error.concerning();
     throw RunTimeError(error.number(), "split " + std::to_string(splitNumber_) + " \"" +
-                                           settings.SplitName + "\", " + settings.CurrentLogPath +
-                                           where);
+                                           settings.SplitName + "\", " +
+                                           ShownPath(settings.CurrentLogPath) + where);
   }
+  shown_ = ShownLog{settings.CurrentLogPath, settings.CurrentLogDay};
   // What has been held back is painted under the hourglass still.
   heldBack.reset();
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "splitlogs/LogGrid.h"
@@ -18,6 +19,12 @@ inline constexpr int32_t kRowsAtFirst = 1440;
 inline constexpr int32_t kRowsToGrowBy = 100;
 // A log of more rows than this is no day's log; it would take the machine's memory.
 inline constexpr int32_t kMostRows = 1000000;
+
+// A log that a grid shows.
+struct ShownLog {
+  std::string Path;  // a station path
+  int32_t Day = 0;   // the day that it is of, as a day number
+};
 
 class SplitLog {
  public:
@@ -41,6 +48,9 @@ class SplitLog {
   // meant. Stops the program when the log that is set can't be read, or when a line meets a row
   // that equals the row count.
   void LoadLogFile();
+
+  // What the last load has put into the grid; nothing where there was no log.
+  const std::optional<ShownLog>& Shown() const { return shown_; }
 
   // Puts the selection on the whole break at `seconds`, or on the next one after it, at the top of
   // the window; on the header when there is none.
@@ -72,12 +82,16 @@ class SplitLog {
  protected:
   // Called when the caption has changed.
   virtual void CaptionChanged();
+  // Called when a load is at its end.
+  virtual void LogLoaded();
 
  private:
+  void ShowOpenLog();
   void FillGrid();
 
   int16_t splitNumber_ = 0;
   std::string caption_ = "Velmar Split";
+  std::optional<ShownLog> shown_;
 };
 
 }  // namespace logchecker

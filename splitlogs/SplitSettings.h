@@ -23,6 +23,7 @@ struct SplitSettings {
   int16_t LogUpdateInterval = 0;  // read and written back; nothing uses it
   // Of the run, untouched when the settings are read again.
   std::string CurrentLogPath;  // of the log that was last opened
+  int32_t CurrentLogDay = 0;   // the day that it is of, as a day number
   int16_t LogFileNumber = 0;   // of the open log; 0 means none
   int32_t LogDate = 0;         // the loaded day
   int32_t LogFileDay = 0;      // date stamp of the open log, as a day number

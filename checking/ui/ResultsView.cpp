@@ -1,12 +1,20 @@
 #include "checking/ui/ResultsView.h"
 
+#include <QFontMetrics>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <algorithm>
+#include <numeric>
+#include <set>
+#include <string>
 
 #include "common/Numbers.h"
+#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactHeader.h"
 #include "common/ui/ReportList.h"
+#include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -17,6 +25,12 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 255;
 
+// In percent of the plain face's width.
+constexpr int kStretches[] = {QFont::Unstretched, QFont::SemiCondensed, QFont::Condensed};
+
+constexpr char kWidestText[] = "Not Found";
+constexpr int kWidestHeading = 2;  // times that text
+
 }  // namespace
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
@@ -24,12 +38,19 @@ ResultsView::ResultsView(ListView& list, QWidget* parent)
   SetUpReportList(*this);
   setModel(model_);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
+  headings_ = qobject_cast<CompactHeader*>(header());
+  headings_->SetTwoLines(true);
   connect(header(), &QHeaderView::sectionResized, this, [this](int column, int /*old*/, int width) {
-    if (!sharing_) list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+    if (sharing_) return;
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+    dragged_ = true;
   });
 }
 
-void ResultsView::Refresh() { model_->Refresh(); }
+void ResultsView::Refresh() {
+  model_->Refresh();
+  faces_.clear();
+}
 
 void ResultsView::TakeAddedRows() {
   model_->TakeAddedRows();
@@ -47,18 +68,118 @@ std::string ResultsView::KeyOfSelectedRow() const {
 }
 
 void ResultsView::ShareColumns(bool keepFirst) {
-  const int columns = model_->columnCount();
-  if (columns < 1) return;
-  const QScopedValueRollback<bool> sharing(sharing_, true);
-  if (!keepFirst) setColumnWidth(0, ToPixels(list_.ColumnHeaders.front().width));
-  if (columns < 2) return;
+  if (model_->columnCount() < 1) return;
+  dragged_ = false;
+  if (!keepFirst) {
+    const QScopedValueRollback<bool> sharing(sharing_, true);
+    setColumnWidth(0, ToPixels(list_.ColumnHeaders.front().width));
+  }
+  if (faces_.empty()) MeasureTexts();
+  GiveWidths();
+}
+
+void ResultsView::FitColumns() {
+  MeasureTexts();
+  if (!dragged_) GiveWidths();
+}
+
+void ResultsView::MeasureTexts() {
+  faces_.clear();
+  for (const int stretch : kStretches) {
+    QFont font = CompactFont();
+    if (stretch != QFont::Unstretched) font.setStretch(stretch);
+    faces_.push_back({font, WidthsIn(font, true)});
+  }
+  // Where there has to be a scroll bar, the plain face is the one that reads best.
+  scrolled_ = {CompactFont(), WidthsIn(CompactFont(), false)};
+}
+
+// A heading counts up to a multiple of the widest text that any cell may need; a longer one ends in
+// dots and is told by its tool tip.
+std::vector<int> ResultsView::WidthsIn(const QFont& font, bool twoLines) const {
+  const QFontMetrics metrics(font);
+  const int margins = 2 * CellMargin(metrics);
+  const int widestHeading = kWidestHeading * metrics.horizontalAdvance(kWidestText);
+  std::vector<int> widths;
+  for (size_t column = 1; column < list_.ColumnHeaders.size(); ++column) {
+    std::set<std::string> texts;
+    for (const ListItem& row : list_.ListItems) {
+      if (column <= row.ListSubItems.size()) texts.insert(row.ListSubItems[column - 1].text);
+    }
+    const QString heading = ToQString(list_.ColumnHeaders[column].text);
+    const int headingWidth = twoLines ? headings_->WidthFor(heading, metrics)
+                                      : metrics.horizontalAdvance(heading) + margins;
+    int width = std::min(headingWidth, widestHeading);
+    for (const std::string& text : texts) {
+      const int needed = metrics.horizontalAdvance(ToQString(text).trimmed());
+      width = std::max(width, needed + margins);
+    }
+    widths.push_back(width);
+  }
+  return widths;
+}
+
+void ResultsView::UseFace(const QFont& font) {
+  if (this->font() == font) return;
+  setFont(font);
+  header()->setFont(font);
+}
+
+int32_t ResultsView::EvenShare() const {
   const int left =
       ToTwips(width()) - kFrameWidth - kScrollBarWidth - list_.ColumnHeaders.front().width;
-  const int32_t share = ToInt32(static_cast<double>(left) / (columns - 1));
-  for (int column = 1; column < columns; ++column) {
+  return ToInt32(static_cast<double>(left) / (model_->columnCount() - 1));
+}
+
+const ResultsView::Face* ResultsView::FirstFace(
+    const std::function<bool(const Face&)>& fits) const {
+  const auto found = std::find_if(faces_.begin(), faces_.end(), fits);
+  return found == faces_.end() ? nullptr : &*found;
+}
+
+void ResultsView::GiveWidths() {
+  if (model_->columnCount() < 2) return;
+  const QScopedValueRollback<bool> sharing(sharing_, true);
+  const int32_t share = EvenShare();
+  const int pixels = std::max(share / kTwipsPerPixel, 1);
+  const int room = pixels * (model_->columnCount() - 1);
+  if (const Face* even = FirstFace([&](const Face& face) { return face.Widest() <= pixels; })) {
+    GiveEvenShares(*even, share);
+  } else if (const Face* own = FirstFace([&](const Face& face) { return face.Sum() <= room; })) {
+    GiveNeededWidths(*own, room);
+  } else {
+    GiveNeededWidths(scrolled_, 0);
+  }
+  updateGeometries();
+}
+
+void ResultsView::GiveEvenShares(const Face& face, int32_t share) {
+  UseFace(face.font);
+  for (int column = 1; column < model_->columnCount(); ++column) {
     list_.ColumnHeaders[static_cast<size_t>(column)].width = share;
     setColumnWidth(column, std::max(share / kTwipsPerPixel, 1));
   }
+}
+
+// What `room` leaves is shared among the columns.
+void ResultsView::GiveNeededWidths(const Face& face, int room) {
+  UseFace(face.font);
+  const int columns = model_->columnCount() - 1;
+  const int spare = std::max(room - face.Sum(), 0) / columns;
+  for (int column = 1; column <= columns; ++column) {
+    const int width = face.widths[static_cast<size_t>(column - 1)] + spare;
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+    setColumnWidth(column, width);
+  }
+}
+
+int ResultsView::Face::Widest() const { return *std::max_element(widths.begin(), widths.end()); }
+
+int ResultsView::Face::Sum() const { return std::accumulate(widths.begin(), widths.end(), 0); }
+
+bool ResultsView::event(QEvent* event) {
+  if (event->type() == QEvent::ApplicationFontChange) FitColumns();
+  return QTreeView::event(event);
 }
 
 void ResultsView::mouseReleaseEvent(QMouseEvent* event) {

@@ -175,6 +175,7 @@ void frmCheckBreaks::ShowProgress(int32_t value, int32_t maximum) {
 
 void frmCheckBreaks::ShowOutcome() {
   lvwResults_->TakeAddedRows();
+  lvwResults_->FitColumns();
   cmdPrint_->setEnabled(check_.cmdPrintEnabled);
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);

@@ -9,7 +9,6 @@ namespace logchecker {
 
 namespace {
 
-constexpr int kMargin = 2;       // pixels beside the text
 constexpr int kMarkerWidth = 3;  // of the bar that shows the selection in a coloured cell
 
 constexpr int kTimeColumnWidth = 500;  // twips, of the narrowest column of times
@@ -17,7 +16,46 @@ constexpr int kTimeCellMargins = 5;    // pixels beside the time's text, the gri
 constexpr int kSmallestFont = 9;       // pixels
 constexpr int kRowMargins = 4;         // pixels above and below a row's text
 
+// Of a cell that is set off, on a light and on a dark background.
+constexpr QRgb kTintOnLight = qRgb(255, 232, 178);
+constexpr QRgb kFrameOnLight = qRgb(138, 84, 0);
+constexpr QRgb kTintOnDark = qRgb(84, 60, 12);
+constexpr QRgb kFrameOnDark = qRgb(255, 200, 100);
+constexpr int kMiddleLightness = 128;
+
+// Inside the cell by the width of its line, so that the frames of neighbours stay apart.
+void DrawFrame(QPainter& painter, const QRect& cell, const QColor& colour) {
+  painter.setPen(colour);
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRect(cell.adjusted(0, 0, -2, -1));
+}
+
+void SetOff(QPainter& painter, const QStyleOptionViewItem& cell, const QColor& selectedText) {
+  if (cell.state.testFlag(QStyle::State_Selected)) {
+    DrawFrame(painter, cell.rect, selectedText);
+    return;
+  }
+  const bool dark = cell.palette.color(QPalette::Base).lightness() < kMiddleLightness;
+  painter.fillRect(cell.rect.adjusted(0, 0, -1, 0), QColor(dark ? kTintOnDark : kTintOnLight));
+  DrawFrame(painter, cell.rect, QColor(dark ? kFrameOnDark : kFrameOnLight));
+}
+
+// A file pads its texts, and blanks at the end are nothing that could be cut off; those in front go
+// only where the text would not fit otherwise.
+QString ShownText(const QStyleOptionViewItem& cell, int room) {
+  QString words = cell.text;
+  while (words.endsWith(' ')) words.chop(1);
+  words.replace('\n', ' ');
+  if (cell.fontMetrics.horizontalAdvance(words) > room) words = words.trimmed();
+  return cell.fontMetrics.elidedText(words, Qt::ElideRight, room);
+}
+
 }  // namespace
+
+int CellMargin(const QFontMetrics& metrics) {
+  constexpr int kCharactersPart = 3;
+  return qMax((metrics.averageCharWidth() + 1) / kCharactersPart, 1);
+}
 
 QFont CompactFont() {
   QFont fitted = QApplication::font();
@@ -55,15 +93,13 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   } else if (selected) {
     painter->fillRect(cell.rect, cell.palette.color(group, QPalette::Highlight));
   }
+  if (index.data(kSetOffRole).toBool()) SetOff(*painter, cell, text);
   painter->setPen(text);
   painter->setFont(cell.font);
-  const QRect inner = cell.rect.adjusted(kMargin, 0, -kMargin, 0);
-  // A file pads its texts, and blanks at the end are nothing that could be cut off.
-  QString words = cell.text;
-  while (words.endsWith(' ')) words.chop(1);
-  const QString shown =
-      cell.fontMetrics.elidedText(words.replace('\n', ' '), Qt::ElideRight, inner.width() + 1);
-  painter->drawText(inner, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine, shown);
+  const int margin = CellMargin(cell.fontMetrics);
+  const QRect inner = cell.rect.adjusted(margin, 0, -margin, 0);
+  painter->drawText(inner, static_cast<int>(cell.displayAlignment) | Qt::TextSingleLine,
+                    ShownText(cell, inner.width() + 1));
   painter->restore();
 }
 

@@ -12,6 +12,13 @@ QFont CompactFont();
 // What a row of that font takes, in pixels.
 int CompactRowHeight();
 
+// What is left free on each side of a cell's text, in pixels: less in a narrower face.
+int CellMargin(const QFontMetrics& metrics);
+
+// A cell with a true value of this role is set off from the others by a frame, and by a tint unless
+// it is selected.
+inline constexpr int kSetOffRole = Qt::UserRole + 1;
+
 class CellDelegate : public QStyledItemDelegate {
   Q_OBJECT
 

@@ -2,6 +2,7 @@
 
 #include <QFont>
 
+#include "common/ui/CellDelegate.h"
 #include "common/ui/StationQString.h"
 
 namespace logchecker {
@@ -18,6 +19,10 @@ Qt::Alignment AlignmentOf(ColumnAlignment alignment) {
       break;
   }
   return Qt::AlignLeft | Qt::AlignVCenter;
+}
+
+QString WithRemark(const QString& text, const ListSubItem& subItem) {
+  return subItem.Remark.empty() ? text : text + ", " + ToQString(subItem.Remark);
 }
 
 }  // namespace
@@ -46,8 +51,15 @@ QVariant ListViewModel::data(const QModelIndex& index, int role) const {
       return subItem != nullptr ? ToQString(subItem->text) : QString();
     case Qt::ToolTipRole: {
       const QString text = data(index, Qt::DisplayRole).toString();
-      return text.isEmpty() ? QVariant() : AsToolTip(text);
+      if (text.isEmpty()) return {};
+      if (subItem == nullptr) return AsToolTip(text);
+      return AsToolTip(ToQString(list_.ColumnHeaders[column].text + ", " + item.text + ": ") +
+                       WithRemark(text, *subItem));
     }
+    case Qt::AccessibleTextRole:
+      return subItem != nullptr ? WithRemark(ToQString(subItem->text), *subItem) : QVariant();
+    case kSetOffRole:
+      return subItem != nullptr && !subItem->Remark.empty();
     case Qt::TextAlignmentRole:
       return QVariant::fromValue(AlignmentOf(list_.ColumnHeaders[column].alignment));
     case Qt::FontRole: {

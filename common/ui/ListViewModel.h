@@ -1,4 +1,5 @@
-// A view's model on a plain list.
+// A view's model on a plain list. A text with a remark is set off, and tells the remark in its tool
+// tip, which names column and row too, and to those who can't see it.
 #pragma once
 
 #include "common/ListView.h"

@@ -25,6 +25,8 @@ QString AsMenuText(const QString& text) { return QString(text).replace("&", "&&"
 
 QString AsTitle(const QString& text) { return QString(text).replace("[*]", "[*][*]"); }
 
-QString AsToolTip(const QString& text) { return "<p>" + text.toHtmlEscaped() + "</p>"; }
+QString AsToolTip(const QString& text) {
+  return "<p>" + text.toHtmlEscaped().replace('\n', "<br>") + "</p>";
+}
 
 }  // namespace logchecker

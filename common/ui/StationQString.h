@@ -18,7 +18,7 @@ std::string FromQString(const QString& text);
 QString AsMenuText(const QString& text);
 // And as a window's title: no part of it is taken for the mark of a changed document.
 QString AsTitle(const QString& text);
-// And as a tool tip: never as markup.
+// And as a tool tip: never as markup, with its line breaks.
 QString AsToolTip(const QString& text);
 
 }  // namespace logchecker

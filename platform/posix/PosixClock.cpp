@@ -51,6 +51,12 @@ double LocalDateNumber(time_t time) {
 
 double PosixClock::Now() { return LocalDateNumber(time(nullptr)); }
 
+double PosixClock::UtcNow() {
+  const time_t seconds = time(nullptr);
+  return static_cast<double>(kUnixEpochDay) +
+         static_cast<double>(seconds) / static_cast<double>(kSecondsADay);
+}
+
 std::string PosixClock::ShortDate(int32_t day) { return Format("%x", DayParts(day)); }
 
 std::string PosixClock::LongDate(int32_t day) { return Format("%A %d %B %Y", DayParts(day)); }

@@ -10,6 +10,7 @@ namespace logchecker {
 class PosixClock : public Clock {
  public:
   double Now() override;
+  double UtcNow() override;
   std::string ShortDate(int32_t day) override;
   std::string LongDate(int32_t day) override;
   std::string MonthName(int32_t month, bool abbreviated) override;

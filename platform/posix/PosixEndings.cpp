@@ -1,5 +1,6 @@
 #include "platform/posix/PosixEndings.h"
 
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -7,8 +8,10 @@
 #include <climits>
 #include <csignal>
 #include <cstring>
+#include <ctime>
 
 #include "platform/Endings.h"
+#include "platform/Processes.h"
 
 namespace logchecker {
 
@@ -28,12 +31,45 @@ struct Slot {
 
 constexpr int kSlots = 64;
 std::array<Slot, kSlots> gSlots;
+
+struct GroupSlot {
+  std::atomic<pid_t> leader{0};  // 0 while it is free
+  pid_t owner = 0;
+};
+
+constexpr int kGroups = Processes::kMostChildren;
+std::array<GroupSlot, kGroups> gGroups;
 std::atomic<int> gUninterrupted(0);
 std::atomic<int> gPending(0);
+std::atomic<bool> gEndsWithSuccess(false);
 
 static_assert(std::atomic<int>::is_always_lock_free, "a handler must not wait for a lock");
+static_assert(std::atomic<pid_t>::is_always_lock_free, "a handler must not wait for a lock");
 
 bool Change(Slot& slot, int from, int to) { return slot.state.compare_exchange_strong(from, to); }
+
+int SignalGroups(pid_t self, int signal) {
+  int running = 0;
+  for (GroupSlot& slot : gGroups) {
+    const pid_t leader = slot.leader;
+    if (leader == 0 || slot.owner != self) continue;
+    kill(-leader, signal);
+    if (waitpid(leader, nullptr, WNOHANG) == 0) ++running;
+  }
+  return running;
+}
+
+// They are asked first, so that they can remove what they were writing, and have half a second.
+void EndGroups(pid_t self) {
+  constexpr int kTries = 100;
+  constexpr timespec kFiveMilliseconds = {0, 5000000};
+  if (SignalGroups(self, SIGTERM) > 0) {
+    for (int i = 0; i < kTries && SignalGroups(self, 0) > 0; ++i) {
+      nanosleep(&kFiveMilliseconds, nullptr);
+    }
+  }
+  SignalGroups(self, SIGKILL);
+}
 
 // Calls only what may be called in the middle of anything.
 extern "C" void EndProgram(int signal) {
@@ -42,9 +78,11 @@ extern "C" void EndProgram(int signal) {
     return;
   }
   const pid_t self = getpid();
+  EndGroups(self);
   for (Slot& slot : gSlots) {
     if (Change(slot, kHeld, kTaken) && slot.owner == self) unlink(slot.path);
   }
+  if (gEndsWithSuccess && (signal == SIGTERM || signal == SIGINT)) _exit(0);
   std::signal(signal, SIG_DFL);
   std::raise(signal);
 }
@@ -72,6 +110,24 @@ void VanishingFile::Release() {
   slot_ = kNone;
 }
 
+void VanishingGroup::Hold(pid_t leader) {
+  Release();
+  for (int i = 0; i < kGroups; ++i) {
+    GroupSlot& slot = gGroups[static_cast<size_t>(i)];
+    if (slot.leader != 0) continue;
+    slot.owner = getpid();
+    slot.leader = leader;
+    slot_ = i;
+    return;
+  }
+}
+
+void VanishingGroup::Release() {
+  if (slot_ == kNone) return;
+  gGroups[static_cast<size_t>(slot_)].leader = 0;
+  slot_ = kNone;
+}
+
 UninterruptedWrite::UninterruptedWrite() { ++gUninterrupted; }
 
 UninterruptedWrite::~UninterruptedWrite() {
@@ -91,5 +147,7 @@ void EndWithoutTemporaryFiles() {
     sigaction(signal, &ending, nullptr);
   }
 }
+
+void EndWithSuccess() { gEndsWithSuccess = true; }
 
 }  // namespace logchecker

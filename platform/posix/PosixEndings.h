@@ -1,6 +1,8 @@
 // What a signal that ends the program must not leave behind.
 #pragma once
 
+#include <sys/types.h>
+
 #include <string>
 
 namespace logchecker {
@@ -15,6 +17,24 @@ class VanishingFile {
 
   // `path` has a root. Of very many at a time the last are not held.
   void Hold(const std::string& path);
+  void Release();
+
+ private:
+  static constexpr int kNone = -1;
+
+  int slot_ = kNone;
+};
+
+// A group of processes that is ended with the process while it is held.
+class VanishingGroup {
+ public:
+  VanishingGroup() = default;
+  ~VanishingGroup() { Release(); }
+  VanishingGroup(const VanishingGroup&) = delete;
+  VanishingGroup& operator=(const VanishingGroup&) = delete;
+
+  // `leader` is a child that leads it. Of very many at a time the last are not held.
+  void Hold(pid_t leader);
   void Release();
 
  private:

@@ -106,22 +106,61 @@ class ReplacedFile : public HostFile {
   Replacement replacement_;
 };
 
-// A pipe or a device must not hold the program up, so nothing is waited for, and a directory is not
-// a file even where it can be opened.
-int32_t OpenDescriptor(const std::string& hostPath, int flags, int* descriptor) {
+// A pipe or a device must not hold the program up, so nothing is waited for.
+int OpenWithoutWaiting(const std::string& hostPath, int flags) {
   constexpr mode_t kNewFileMode = 0666;
-  *descriptor = open(hostPath.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+  return open(hostPath.c_str(), flags | O_CLOEXEC | O_NONBLOCK, kNewFileMode);
+}
+
+// A directory is not a file even where it can be opened, which is for reading alone.
+int32_t OpenDescriptor(const std::string& hostPath, int flags, int* descriptor) {
+  *descriptor = OpenWithoutWaiting(hostPath, flags);
   if (*descriptor < 0) return ErrorFromErrno(errno, hostPath);
+  if ((flags & O_ACCMODE) != O_RDONLY) return kNoError;
   struct stat facts {};
   if (fstat(*descriptor, &facts) == 0 && !S_ISDIR(facts.st_mode)) return kNoError;
   close(*descriptor);
   return kPathFileAccess;
 }
 
+int64_t Nanoseconds(const timespec& time) {
+  constexpr int64_t kNanosecondsASecond = 1000000000;
+  return int64_t{time.tv_sec} * kNanosecondsASecond + time.tv_nsec;
+}
+
+// For reading and writing, or for reading alone.
+int32_t OpenForRecords(const std::string& hostPath, int flags, int* descriptor) {
+  const int32_t error = OpenDescriptor(hostPath, O_RDWR | flags, descriptor);
+  if (error == kNoError || OpenDescriptor(hostPath, O_RDONLY, descriptor) == kNoError) {
+    return kNoError;
+  }
+  return error;
+}
+
+// What the system says of the file or directory that a path leads to.
+int32_t FactsOf(const std::string& path, struct stat* facts) {
+  const HostEntry entry = FindEntry(path);
+  if (entry.isMissing) return kFileNotFound;
+  *facts = entry.facts;
+  if (S_ISREG(facts->st_mode)) return kNoError;
+  return stat(entry.path.c_str(), facts) == 0 ? kNoError : ErrorFromErrno(errno, entry.path);
+}
+
 }  // namespace
 
 int32_t PosixFiles::OpenHost(HostMode mode, const std::string& path,
                              std::unique_ptr<HostFile>* file) {
+  if (mode == HostMode::kRandom) {
+    // One that is there as it is written need not be looked for first.
+    const std::string written = HostSpelling(path);
+    int descriptor = OpenWithoutWaiting(written, O_RDWR);
+    const bool isThere = descriptor >= 0 || errno != ENOENT;
+    if (descriptor >= 0 ||
+        (isThere && OpenDescriptor(written, O_RDONLY, &descriptor) == kNoError)) {
+      *file = std::make_unique<OpenFile>(descriptor);
+      return kNoError;
+    }
+  }
   const std::string hostPath = HostPath(path);
   if (mode == HostMode::kReplace) {
     auto replaced = std::make_unique<ReplacedFile>();
@@ -136,12 +175,10 @@ int32_t PosixFiles::OpenHost(HostMode mode, const std::string& path,
       error = OpenDescriptor(hostPath, O_WRONLY | O_APPEND | O_CREAT, &descriptor);
       break;
     case HostMode::kRandom:
+      error = OpenForRecords(hostPath, O_CREAT, &descriptor);
+      break;
     case HostMode::kRandomExisting:
-      error = OpenDescriptor(hostPath, mode == HostMode::kRandom ? O_RDWR | O_CREAT : O_RDWR,
-                             &descriptor);
-      if (error != kNoError && OpenDescriptor(hostPath, O_RDONLY, &descriptor) == kNoError) {
-        error = kNoError;
-      }
+      error = OpenForRecords(hostPath, 0, &descriptor);
       break;
     default:
       error = OpenDescriptor(hostPath, O_RDONLY, &descriptor);
@@ -152,27 +189,44 @@ int32_t PosixFiles::OpenHost(HostMode mode, const std::string& path,
 }
 
 int32_t PosixFiles::FileLength(const std::string& path, int64_t* length) {
-  const std::string hostPath = HostPath(path);
   struct stat facts {};
-  if (stat(hostPath.c_str(), &facts) != 0) return ErrorFromErrno(errno, hostPath);
+  const int32_t error = FactsOf(path, &facts);
+  if (error != kNoError) return error;
   if (!S_ISREG(facts.st_mode)) return kFileNotFound;
   *length = facts.st_size;
   return kNoError;
 }
 
 int32_t PosixFiles::FileDateTime(const std::string& path, double* dateTime) {
+  struct stat facts {};
+  const int32_t error = FactsOf(path, &facts);
+  if (error == kNoError) *dateTime = LocalDateNumber(facts.st_mtim.tv_sec);
+  return error;
+}
+
+FileStamp PosixFiles::StampOf(const std::string& path) {
   const std::string hostPath = HostPath(path);
   struct stat facts {};
-  if (stat(hostPath.c_str(), &facts) != 0) return ErrorFromErrno(errno, hostPath);
-  *dateTime = LocalDateNumber(facts.st_mtim.tv_sec);
-  return kNoError;
+  FileStamp stamp;
+  if (stat(hostPath.c_str(), &facts) != 0) {
+    stamp.error = ErrorFromErrno(errno, hostPath);
+    return stamp;
+  }
+  stamp.isDirectory = S_ISDIR(facts.st_mode);
+  stamp.device = facts.st_dev;
+  stamp.file = facts.st_ino;
+  stamp.rights = uint64_t{facts.st_uid} << 32U | facts.st_mode;
+  if (stamp.isDirectory) return stamp;
+  stamp.size = facts.st_size;
+  stamp.modified = Nanoseconds(facts.st_mtim);
+  stamp.changed = Nanoseconds(facts.st_ctim);
+  return stamp;
 }
 
 int32_t PosixFiles::ProbeFile(const std::string& path) {
-  const std::string hostPath = HostPath(path);
   struct stat facts {};
-  if (stat(hostPath.c_str(), &facts) != 0) return ErrorFromErrno(errno, hostPath);
-  return S_ISDIR(facts.st_mode) ? kPathFileAccess : kNoError;
+  const int32_t error = FactsOf(path, &facts);
+  return error == kNoError && S_ISDIR(facts.st_mode) ? kPathFileAccess : error;
 }
 
 }  // namespace logchecker

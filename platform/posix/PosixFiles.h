@@ -12,6 +12,7 @@ class PosixFiles : public FileTable {
  public:
   int32_t FileLength(const std::string& path, int64_t* length) override;
   int32_t FileDateTime(const std::string& path, double* dateTime) override;
+  FileStamp StampOf(const std::string& path) override;
   int32_t ProbeFile(const std::string& path) override;
 
  protected:

@@ -2,6 +2,7 @@
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/PosixDirectories.h"
 #include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixProcesses.h"
 #include "platform/posix/PosixProfileFiles.h"
 #include "platform/posix/PosixRegistry.h"
 #include "platform/posix/PosixShell.h"
@@ -19,8 +20,9 @@ Platform& RealPlatform() {
   static PosixClock clock;
   static PosixWaveDevices waveDevices;
   static PosixSystemFacts system;
-  static Platform platform{files,    directories, shell,       profiles,
-                           registry, clock,       waveDevices, system};
+  static PosixProcesses processes;
+  static Platform platform{files, directories, shell,  profiles, registry,
+                           clock, waveDevices, system, processes};
   return platform;
 }
 

@@ -1,4 +1,5 @@
 // Windows-1252, the code page of the stations, to UTF-8 and back.
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -67,9 +68,16 @@ bool TakeCodePoint(std::string_view* text, uint32_t* codePoint) {
   return wellFormed;
 }
 
+// Such text is the same in both.
+bool IsAscii(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return static_cast<unsigned char>(c) < kUpperHalf; });
+}
+
 }  // namespace
 
 std::string ToUtf8(std::string_view stationText) {
+  if (IsAscii(stationText)) return std::string(stationText);
   std::string utf8;
   utf8.reserve(stationText.size());
   for (const char c : stationText) {
@@ -89,6 +97,10 @@ std::string ToUtf8(std::string_view stationText) {
 }
 
 bool FromUtf8(std::string_view utf8, std::string* stationText) {
+  if (IsAscii(utf8)) {
+    stationText->assign(utf8);
+    return true;
+  }
   stationText->clear();
   bool whole = true;
   while (!utf8.empty()) {

@@ -1,54 +1,15 @@
 #include "platform/posix/StationPath.h"
 
-#include <sys/stat.h>
-
 #include <algorithm>
 #include <cctype>
 
 #include "platform/HostPaths.h"
 #include "platform/StationText.h"
-#include "platform/posix/FolderNames.h"
 #include "platform/posix/UserFolders.h"
 
 namespace logchecker {
 
 namespace {
-
-bool Exists(const std::string& path) {
-  struct stat facts {};
-  return lstat(path.c_str(), &facts) == 0;
-}
-
-// The system that the names come from drops full stops and blanks at the end of a name.
-std::string NameThatIsKept(const std::string& name) {
-  const size_t last = name.find_last_not_of(". ");
-  return last == std::string::npos ? name : name.substr(0, last + 1);
-}
-
-// A host path with the name of each part as it is called there.
-std::string WithFoundNames(const std::string& path, HostLookalike* lookalike) {
-  if (path.empty() || Exists(path)) return path;
-  std::string result = path[0] == '/' ? "/" : "";
-  bool exists = true;
-  size_t begin = path.find_first_not_of('/');
-  while (begin != std::string::npos) {
-    const size_t end = std::min(path.find('/', begin), path.size());
-    const std::string name = path.substr(begin, end - begin);
-    std::string found;
-    std::string other;
-    exists = exists && FindName(result, name, &found, &other);
-    if (!other.empty() && lookalike->other.empty()) *lookalike = {result + found, result + other};
-    result += exists ? found : NameThatIsKept(name);
-    if (end < path.size()) result += '/';
-    begin = path.find_first_not_of('/', end);
-  }
-  return result;
-}
-
-std::string WithFoundNames(const std::string& path) {
-  HostLookalike ignored;
-  return WithFoundNames(path, &ignored);
-}
 
 // Settings are read and written by host paths, and looked for by station paths, which are found in
 // any letter case. Both must mean the same folder, so its name is settled once.
@@ -82,36 +43,27 @@ std::string WithoutDrive(std::string path) {
 
 }  // namespace
 
+std::string HostSpelling(std::string_view stationPath) { return WithoutDrive(ToUtf8(stationPath)); }
+
 const std::string& HostWindowsFolder() { return WindowsFolderSlot().path; }
 
 void SetHostWindowsFolder(const std::string& folder) {
   WindowsFolderSlot() = WindowsFolder(folder);
 }
 
-bool FindName(const std::string& hostFolder, const std::string& name, std::string* found,
-              std::string* other) {
-  other->clear();
-  const std::string folder = hostFolder.empty() ? "." : hostFolder;
-  if (Exists(folder + "/" + name)) {
-    *found = name;
-    return true;
-  }
-  if (FindFoldedName(folder, name, found, other)) return true;
-  const std::string kept = NameThatIsKept(name);
-  return kept != name && FindName(hostFolder, kept, found, other);
-}
-
 std::string HostPath(std::string_view stationPath, HostLookalike* lookalike) {
-  const std::string path = WithoutDrive(ToUtf8(stationPath));
+  const std::string path = HostSpelling(stationPath);
   const WindowsFolder& folder = WindowsFolderSlot();
   // That folder's name has been settled, so nothing of it is left to be seen in the path.
   if (path.rfind(folder.path + "/", 0) == 0) *lookalike = folder.lookalike;
   return WithFoundNames(path, lookalike);
 }
 
-std::string HostPath(std::string_view stationPath) {
-  return WithFoundNames(WithoutDrive(ToUtf8(stationPath)));
+HostEntry FindEntry(std::string_view stationPath) {
+  return FindHostEntry(HostSpelling(stationPath));
 }
+
+std::string HostPath(std::string_view stationPath) { return FindEntry(stationPath).path; }
 
 std::string ToHostPath(std::string_view stationPath) { return HostPath(stationPath); }
 

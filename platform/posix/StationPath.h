@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/posix/HostEntry.h"
+
 namespace logchecker {
 
 // Both separators serve, a drive "X:" is the folder drives/x in the Windows folder, and a share
@@ -14,24 +16,19 @@ namespace logchecker {
 // Parts that do not exist stay as they are written otherwise. The result is in UTF-8.
 std::string HostPath(std::string_view stationPath);
 
-// Two host paths whose last parts differ only in letter case.
-struct HostLookalike {
-  std::string taken;
-  std::string other;  // empty when there is none
-};
-
 // The same; the first part that could stand for several entries is put down in `lookalike`.
 std::string HostPath(std::string_view stationPath, HostLookalike* lookalike);
+
+// The same, with what was learnt on the way.
+HostEntry FindEntry(std::string_view stationPath);
+
+// The same before any part is looked for: in UTF-8, with "/" throughout, and the folder of the
+// drive or share in its place.
+std::string HostSpelling(std::string_view stationPath);
 
 // The folder that holds profile files, drives and the registry; a host path, whose parts are found
 // as those of a station path are.
 const std::string& HostWindowsFolder();
 void SetHostWindowsFolder(const std::string& folder);
-
-// `name` as it is called in the folder `hostFolder`; false when nothing there bears it, whatever
-// the letter case. Of several that differ only in case the exact one is taken, else the first in
-// byte order, and `other` is the next.
-bool FindName(const std::string& hostFolder, const std::string& name, std::string* found,
-              std::string* other);
 
 }  // namespace logchecker

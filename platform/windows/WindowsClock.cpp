@@ -28,6 +28,12 @@ class SystemClock : public Clock {
     return DateNumberOf(time);
   }
 
+  double UtcNow() override {
+    SYSTEMTIME time;
+    GetSystemTime(&time);
+    return DateNumberOf(time);
+  }
+
   std::string ShortDate(int32_t day) override { return FormatDate(day, DATE_SHORTDATE); }
   std::string LongDate(int32_t day) override { return FormatDate(day, DATE_LONGDATE); }
 

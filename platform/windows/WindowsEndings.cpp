@@ -1,5 +1,6 @@
 #include "platform/windows/WindowsEndings.h"
 
+#include <atomic>
 #include <mutex>
 #include <set>
 
@@ -21,12 +22,15 @@ VanishingFiles& Vanishing() {
   return files;
 }
 
+std::atomic<bool> gEndsWithSuccess(false);
+
 // Called on a thread of its own, and the program ends behind it. The files are open, so that they
 // go when the system closes them.
 BOOL WINAPI OnConsoleEnding(DWORD /*event*/) {
   VanishingFiles& files = Vanishing();
   const std::lock_guard<std::mutex> lock(files.mutex);
   for (const std::string& path : files.paths) DeleteFileA(path.c_str());
+  if (gEndsWithSuccess) TerminateProcess(GetCurrentProcess(), 0);
   return FALSE;
 }
 
@@ -43,5 +47,7 @@ void ReleaseVanishingFile(const std::string& path) {
 }
 
 void EndWithoutTemporaryFiles() { SetConsoleCtrlHandler(OnConsoleEnding, TRUE); }
+
+void EndWithSuccess() { gEndsWithSuccess = true; }
 
 }  // namespace logchecker

@@ -15,6 +15,7 @@ RegistryCalls& WindowsRegistry();
 Clock& WindowsClock();
 WaveDevices& WindowsWaveDevices();
 SystemFacts& WindowsSystemFacts();
+Processes& WindowsProcesses();
 
 // The path of a profile file: a bare name lies in the folder that took the Windows folder's place,
 // if one did; otherwise it stays bare, and the system looks where it always does.

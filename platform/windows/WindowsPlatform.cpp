@@ -5,7 +5,7 @@ namespace logchecker {
 Platform& RealPlatform() {
   static Platform platform{WindowsFiles(),        WindowsDirectories(), WindowsShell(),
                            WindowsProfileFiles(), WindowsRegistry(),    WindowsClock(),
-                           WindowsWaveDevices(),  WindowsSystemFacts()};
+                           WindowsWaveDevices(),  WindowsSystemFacts(), WindowsProcesses()};
   return platform;
 }
 

@@ -47,6 +47,7 @@ void frmMain::UpdateSplitInfo() {
   RequireSplitsInRange();
   ArrangeSplits();
   UnloadInactiveSplits();
+  ShowOtherDays();
   DropUnneededScrollBars();
   mnuLogSettingsSep_->setVisible(active > 0);
   if (active == 0) throw RunTimeError(kInvalidCall, "no split is active: NumberActiveSplits is 0");

@@ -9,9 +9,13 @@
 #include <QToolButton>
 
 #include "common/ui/ClickableLabel.h"
+#include "common/ui/ElidedLabel.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
+#include "common/ui/StationQString.h"
+#include "shell/LoadLogs.h"
 #include "shell/ui/frmMain.h"
+#include "splitlogs/LogWords.h"
 
 namespace logchecker {
 
@@ -114,6 +118,23 @@ void frmMain::BuildStatusBar() {
   splitsPanel_->setToolTip(
       "This is the number of splits that can be controlled from this terminal");
   statusBar()->addWidget(splitsPanel_);
+  otherDaysPanel_ = new ElidedLabel;
+  otherDaysPanel_->setObjectName("otherdays");
+  otherDaysPanel_->setContentsMargins(6, 2, 12, 2);
+  QFont bold = otherDaysPanel_->font();
+  bold.setBold(true);
+  otherDaysPanel_->setFont(bold);
+  otherDaysPanel_->hide();
+  statusBar()->addWidget(otherDaysPanel_, 1);
+}
+
+// The panel is there only while an active split shows the log of another day than the frame says.
+void frmMain::ShowOtherDays() {
+  const QString words = ToQString(OtherDaysInWords(CurrentLogDate));
+  otherDaysPanel_->SetWholeText(QString(words).replace('\n', "; "));
+  otherDaysPanel_->setToolTip(AsToolTip(
+      QString("There is no log of %1\n").arg(ToQString(DayInWords(CurrentLogDate))) + words));
+  otherDaysPanel_->setVisible(!words.isEmpty());
 }
 
 // They do no work: nothing starts them, and a tick only stops its timer. No log and no cart list is

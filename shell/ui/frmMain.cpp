@@ -87,6 +87,7 @@ frmMain::~frmMain() {
 void frmMain::LoadLogs(int32_t date) {
   logchecker::LoadLogs(date);
   setWindowTitle(AsTitle(ToQString(CaptionOfDay(date))));
+  ShowOtherDays();
 }
 
 // The day comes back as exactly five digits; the time that was picked has no effect.
@@ -169,6 +170,7 @@ void frmMain::OnLogSettings(int16_t split) {
   gSplits(split).UpdateInfo();
   ReopenReplacedParts();
   gSplits(split).LoadLogFile();
+  ShowOtherDays();
 }
 
 void frmMain::OnAbout() {

@@ -21,6 +21,7 @@ class QToolButton;
 
 namespace logchecker {
 
+class ElidedLabel;
 class frmCheckBreaks;
 class frmGeneralSettings;
 class frmSelectHour;
@@ -93,6 +94,7 @@ class frmMain : public QMainWindow {
   void ArrangeSplits();
   void StackSplits();
   void NameLogSettingsEntry(int16_t split);
+  void ShowOtherDays();
   void UnloadInactiveSplits();
 
   QMdiArea* area_ = nullptr;
@@ -100,6 +102,7 @@ class frmMain : public QMainWindow {
   QToolButton* sftLoad_ = nullptr;
   QToolButton* sftCheckBreaks_ = nullptr;
   QLabel* splitsPanel_ = nullptr;
+  ElidedLabel* otherDaysPanel_ = nullptr;
   QMenu* mnuWindow_ = nullptr;
   QAction* mnuPrint_ = nullptr;
   QAction* mnuLogSettingsSep_ = nullptr;

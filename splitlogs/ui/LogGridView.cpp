@@ -6,12 +6,16 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
+#include <QToolTip>
 #include <algorithm>
 
 #include "common/ui/CellDelegate.h"
 #include "common/ui/CompactHeader.h"
 #include "common/ui/Guard.h"
+#include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
+#include "splitlogs/LogWords.h"
+#include "splitlogs/ui/LogCellDelegate.h"
 
 namespace logchecker {
 
@@ -27,7 +31,7 @@ LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
   setHorizontalHeader(new CompactHeader(this));
   setModel(model_);
-  setItemDelegate(new CellDelegate(this));
+  setItemDelegate(new LogCellDelegate(grid, this));
   setSelectionBehavior(QAbstractItemView::SelectRows);
   setSelectionMode(QAbstractItemView::ContiguousSelection);
   setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -103,6 +107,27 @@ void LogGridView::SelectionChanged() {
     selectionModel()->clearSelection();
   }
   verticalScrollBar()->setValue(std::max(grid_.TopRow() - 1, 0));
+  ShowMiss();
+}
+
+// A selection that is the same as before can have become one that stands in for another break.
+void LogGridView::ShowMiss() {
+  const QString words = ToQString(MissInWords(grid_));
+  if (words == accessibleDescription()) return;
+  setAccessibleDescription(words);
+  viewport()->update();
+}
+
+bool LogGridView::viewportEvent(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && grid_.MissedTime()) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    if (index.isValid() && selectionModel()->isSelected(index)) {
+      QToolTip::showText(help->globalPos(), AsToolTip(accessibleDescription()), viewport());
+      return true;
+    }
+  }
+  return QTableView::viewportEvent(event);
 }
 
 void LogGridView::OnScrolled(int value) {

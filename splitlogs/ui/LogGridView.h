@@ -1,5 +1,6 @@
-// gridLog as the user sees it. The grid holds current row, selection and top row; the view follows
-// it, and tells it what the user does.
+// gridLog as the user sees it. A selection that stands in for a break that is not there says so, in
+// a tool tip and to those who can't see it. The grid holds current row, selection and top row; the
+// view follows it, and tells it what the user does.
 #pragma once
 
 #include <QTableView>
@@ -34,6 +35,7 @@ class LogGridView : public QTableView, public LogGridObserver {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   bool event(QEvent* event) override;
+  bool viewportEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void updateGeometries() override;
 
@@ -41,6 +43,7 @@ class LogGridView : public QTableView, public LogGridObserver {
   void SetUpColumns();
   void FitFont();
   void OnScrolled(int value);
+  void ShowMiss();
 
   LogGrid& grid_;
   LogGridModel* model_;

@@ -2,11 +2,15 @@
 
 #include <QCloseEvent>
 #include <QFrame>
+#include <QHelpEvent>
+#include <QStyleOptionTitleBar>
+#include <QToolTip>
 
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
+#include "splitlogs/LogWords.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/ui/LogGridView.h"
 
@@ -43,7 +47,10 @@ void frmSplit::CaptionChanged() {
   const QString caption = ToQString(Caption());
   setWindowTitle(AsTitle(caption));
   gridView_->setAccessibleName(caption);
+  LogLoaded();
 }
+
+void frmSplit::LogLoaded() { setAccessibleDescription(ToQString(LogInWords(*this))); }
 
 QWidget* frmSplit::FirstControl() { return gridView_; }
 
@@ -59,6 +66,31 @@ void frmSplit::LayOut() {
 void frmSplit::closeEvent(QCloseEvent* event) {
   event->ignore();
   showMinimized();
+}
+
+// The words between the buttons of the title bar, which have tool tips of their own.
+bool frmSplit::IsOnTitle(const QPoint& place) const {
+  QStyleOptionTitleBar bar;
+  bar.initFrom(this);
+  bar.titleBarFlags = windowFlags();
+  bar.titleBarState = static_cast<int>(windowState());
+  bar.subControls = QStyle::SC_All;
+  bar.rect = QRect(0, 0, width(), style()->pixelMetric(QStyle::PM_TitleBarHeight, &bar, this));
+  return bar.rect.contains(place) &&
+         style()->hitTestComplexControl(QStyle::CC_TitleBar, &bar, place, this) ==
+             QStyle::SC_TitleBarLabel;
+}
+
+// A tool tip that a control in the window has none of comes here too.
+bool frmSplit::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip) {
+    const auto* help = static_cast<QHelpEvent*>(event);
+    if (!isMaximized() && IsOnTitle(help->pos())) {
+      QToolTip::showText(help->globalPos(), AsToolTip(ToQString(LogInWords(*this))), this);
+      return true;
+    }
+  }
+  return ChildWindow::event(event);
 }
 
 void frmSplit::OnBreakChosen() {

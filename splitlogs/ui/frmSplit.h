@@ -11,8 +11,8 @@ namespace logchecker {
 
 class LogGridView;
 
-// A SplitLog that can be seen. It is minimised where the user would close it; it goes only when its
-// owner unloads it.
+// A SplitLog that can be seen. A tool tip of its title bar tells which log it shows. It is
+// minimised where the user would close it; it goes only when its owner unloads it.
 class frmSplit : public ChildWindow, public SplitLog {
   Q_OBJECT
 
@@ -26,12 +26,15 @@ class frmSplit : public ChildWindow, public SplitLog {
 
  protected:
   void CaptionChanged() override;
+  void LogLoaded() override;
   void LayOut() override;
   QWidget* FirstControl() override;
   void closeEvent(QCloseEvent* event) override;
+  bool event(QEvent* event) override;
 
  private:
   void OnBreakChosen();
+  bool IsOnTitle(const QPoint& place) const;
 
   QWidget* inner_;
   QFrame* brdMain_;

@@ -36,5 +36,19 @@ TEST(PathText, PartsOfAPath) {
   }
 }
 
+TEST(PathText, APathIsShownWithTheSeparatorThatItHasFirst) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"/srv/station\\logs\\1.LOG", "/srv/station/logs/1.LOG"},
+      {"C:\\LOGS/1.LOG", "C:\\LOGS\\1.LOG"},
+      {"C:/LOGS\\1.LOG", "C:/LOGS/1.LOG"},
+      {"\\\\server\\share/1.LOG", "\\\\server\\share\\1.LOG"},
+      {"out/tomorrow.csv", "out/tomorrow.csv"},
+      {"out\\tomorrow.csv", "out\\tomorrow.csv"},
+      {"tomorrow.csv", "tomorrow.csv"},
+      {"", ""},
+  };
+  for (const auto& [path, shown] : cases) EXPECT_EQ(shown, ShownPath(path));
+}
+
 }  // namespace
 }  // namespace logchecker

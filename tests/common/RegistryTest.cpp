@@ -89,8 +89,8 @@ class CountingRegistry : public RegistryCalls {
  public:
   CountingRegistry()
       : real_(Os().registry),
-        platform_{Os().files, Os().directories, Os().shell,       Os().profiles,
-                  *this,      Os().clock,       Os().waveDevices, Os().system},
+        platform_{Os().files, Os().directories, Os().shell,  Os().profiles, *this,
+                  Os().clock, Os().waveDevices, Os().system, Os().processes},
         before_(UsePlatform(platform_)) {}
   CountingRegistry(const CountingRegistry&) = delete;
   CountingRegistry& operator=(const CountingRegistry&) = delete;

@@ -1,12 +1,13 @@
 #!/usr/bin/env python3
 """A station that has nothing is set up from the program's own dialogs, by keys alone; a second start
-asks nothing; a switch leads the settings into a file of their own; and the two ways out end the
-program."""
+asks nothing; a switch leads the settings into a file of their own; the two ways out end the
+program; and a store of fewer than ten parts opens at the second start."""
 
 import pathlib
 import sys
 
 import screen
+import work
 
 BIN = pathlib.Path(sys.argv[1])
 TITLE = "^Velmar KLT Log Checker$"
@@ -116,6 +117,35 @@ def cancel_store(desk, config):
     assert program.wait(timeout=30) == 1, "no further message may follow"
 
 
+def set_up_small_store(desk, config):
+    """How many carts there are is read at the next start, so that the first one misses six parts."""
+    work.write_sample(BIN, config)
+    velmar = config / "velmar"
+    store = velmar / "audio"
+    (velmar / "VELMAR.INI").write_text("[FileLocations]\r\n" + "".join(
+        f"Carts{part}={store}/carts {part}\r\n" for part in (2, 3, 4)), encoding="ascii", newline="")
+    program = desk.start(BIN / "logchecker", config=config)
+    desk.until(lambda: [desk.name(w) for w in desk.windows()].count("Velmar KLT Log Checker") > 1,
+               "splash and message")
+    desk.settled()
+    pass_over_splash(desk)
+    desk.keys("Return")
+    dialog = desk.window(CARTS, "cart locations")
+    desk.keys("ctrl+a")
+    desk.type(str(store / "carts 1"))
+    desk.keys("Return")
+    answer(desk, ["Return"], "message of the dialog")
+    desk.gone(dialog)
+    answer(desk, ["Return"], "message of the second try")
+    assert program.wait(timeout=30) == 1, program.stderr.read()
+    program = desk.start(BIN / "logchecker", config=config)
+    frame = desk.window(FRAME, "main window of the start after that")
+    desk.keys("alt+f", "x")
+    desk.gone(frame)
+    assert program.wait(timeout=30) == 0, program.stderr.read()
+    assert len(list(store.rglob("Carts*.lst"))) == 4, "a list file was made"
+
+
 def main():
     with screen.Screen() as desk:
         config = desk.folder / "config"
@@ -124,6 +154,7 @@ def main():
         use_switch(desk, config)
         cancel_settings(desk, desk.folder / "cancelled")
         cancel_store(desk, desk.folder / "without-store")
+        set_up_small_store(desk, desk.folder / "small-store")
         print("a station is set up")
 
 

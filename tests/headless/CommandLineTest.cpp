@@ -43,6 +43,57 @@ TEST(CommandLine, TheVerbAndItsOptionsAreTakenInAnyUsualOrder) {
   }
 }
 
+TEST(CommandLine, WhatIsEmptyOrLacksItsValueIsRefusedByItsName) {
+  struct Case {
+    Arguments arguments;
+    const char* message;
+  };
+  const Case cases[] = {
+      {{""}, "an argument is empty: \"\""},
+      {{"", "--date", "2027-01-15"}, "an argument is empty: \"\""},
+      {{"check", ""}, "an argument is empty: \"\""},
+      {{"cart", "1", ""}, "an argument is empty: \"\""},
+      {{"sample", ""}, "an argument is empty: \"\""},
+      {{"--date", ""}, "--date is empty"},
+      {{"--date", "", "--date", "2027-01-15"}, "--date is empty"},
+      {{"--date="}, "--date is empty"},
+      {{"--output", ""}, "--output is empty"},
+      {{"--output="}, "--output is empty"},
+      {{"--settings", "", "check"}, "--settings is empty"},
+      {{"--settings=", "check"}, "--settings is empty"},
+      {{"--station", ""}, "--station is empty"},
+      {{"--accept", ""}, "--accept is empty"},
+      {{"--days", ""}, "--days is empty"},
+      {{"--format", ""}, "--format is empty"},
+      {{"show", "--split", ""}, "--split is empty"},
+      {{"sample", "/f", "--breaks", ""}, "--breaks is empty"},
+      {{"--date"}, "--date has no value"},
+      {{"--settings"}, "--settings has no value"},
+      {{"check", "--settings"}, "--settings has no value"},
+      {{"--settings", "/LI:OTHER.INI"}, "--settings has no value"},
+      {{"--settings", "--date", "2027-01-15"}, "--settings has no value"},
+      {{"--date", "--days", "3"}, "--date has no value"},
+      {{"--station", "--format", "json"}, "--station has no value"},
+      {{"--accept", "--format", "json"}, "--accept has no value"},
+      {{"--output", "--date", "2027-01-15"}, "--output has no value"},
+      {{"show", "--split"}, "--split has no value"},
+      {{"sample", "/f", "--splits", "--breaks", "3"}, "--splits has no value"},
+  };
+  for (const Case& row : cases) {
+    const ParsedArguments parsed = ParseArguments(row.arguments);
+    EXPECT_FALSE(parsed.options) << row.message;
+    EXPECT_EQ(2, parsed.exitCode);
+    EXPECT_EQ(std::string(row.message) + " (see logcheck --help)", parsed.message);
+  }
+}
+
+TEST(CommandLine, AValueThatLooksLikeAnOptionStandsBehindAnEqualsSign) {
+  const ParsedArguments parsed = ParseArguments({"--station=--north", "--output=--date"});
+  ASSERT_TRUE(parsed.options) << parsed.message;
+  EXPECT_EQ("--north", parsed.options->station);
+  EXPECT_EQ("--date", parsed.options->output);
+}
+
 TEST(CommandLine, WhatMakesNoSenseIsRefusedWithOneLineAndExitCodeTwo) {
   const Arguments cases[] = {
       {"--date", "2026-13-01"},
@@ -140,6 +191,49 @@ TEST(CommandLine, SampleSizesAreNotedOnlyWhenGiven) {
   EXPECT_EQ(1, least.options->sampleSizes.splits);
   EXPECT_EQ(1, least.options->sampleSizes.breaks);
   EXPECT_EQ(1, least.options->sampleSizes.adverts);
+}
+
+TEST(CommandLine, APageIsAFormatOfTheCheck) {
+  const ParsedArguments parsed = ParseArguments({"--format", "html"});
+  ASSERT_TRUE(parsed.options);
+  EXPECT_EQ(ReportFormat::kHtml, parsed.options->format);
+}
+
+TEST(CommandLine, TheSamplesMistakesAreNotedOnlyWhenGiven) {
+  const ParsedArguments plain = ParseArguments({"sample", "x"});
+  ASSERT_TRUE(plain.options);
+  EXPECT_FALSE(plain.options->sampleMistakes);
+  EXPECT_EQ(0, plain.options->sampleSeed);
+  EXPECT_EQ(0, plain.options->sampleMissingDays);
+  const ParsedArguments given = ParseArguments(
+      {"sample", "x", "--mistakes", "0", "--seed", "9", "--missing-days", "2", "--days", "3"});
+  ASSERT_TRUE(given.options);
+  EXPECT_EQ(0, given.options->sampleMistakes);
+  EXPECT_EQ(9, given.options->sampleSeed);
+  EXPECT_EQ(2, given.options->sampleMissingDays);
+  EXPECT_FALSE(ParseArguments({"sample", "x", "--mistakes", "1441"}).options);
+  EXPECT_FALSE(ParseArguments({"sample", "x", "--seed", "-1"}).options);
+}
+
+TEST(CommandLine, AWatchHasAnIntervalAndACommand) {
+  const ParsedArguments plain = ParseArguments({"watch"});
+  ASSERT_TRUE(plain.options);
+  EXPECT_EQ(Verb::kWatch, plain.options->verb);
+  EXPECT_EQ(10, plain.options->every);
+  EXPECT_EQ("", plain.options->run);
+  const ParsedArguments whole = ParseArguments({"watch", "--every", "60", "--days", "3", "--format",
+                                                "html", "--run", "mail -s x y", "--skip-missing"});
+  ASSERT_TRUE(whole.options);
+  EXPECT_EQ(60, whole.options->every);
+  EXPECT_EQ(3, whole.options->days);
+  EXPECT_EQ(ReportFormat::kHtml, whole.options->format);
+  EXPECT_EQ("mail -s x y", whole.options->run);
+  for (const std::vector<std::string>& wrong : {std::vector<std::string>{"watch", "--every", "0"},
+                                                {"watch", "--run", ""},
+                                                {"watch", "--format", "csv"},
+                                                {"watch", "--date", "2027-01-15"}}) {
+    EXPECT_FALSE(ParseArguments(wrong).options) << wrong[1];
+  }
 }
 
 }  // namespace

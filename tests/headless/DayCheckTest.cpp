@@ -4,6 +4,8 @@
 
 #include "cartstore/AudiowallParts.h"
 #include "common/GeneralSettings.h"
+#include "common/PathText.h"
+#include "headless/Output.h"
 #include "headless/Station.h"
 #include "platform/HostPaths.h"
 #include "splitlogs/KLT_Common.h"
@@ -44,8 +46,9 @@ TEST_F(DayCheckTest, APartThatCanNoLongerBeReadIsAWarningOnceEachTime) {
   const std::string file = ToHostPath(PartEntry(1).FullFileName);
   ASSERT_TRUE(std::filesystem::exists(file));
   const auto told = [&](const std::string& text) {
-    return text.find("part 1 of the cart store can't be read: " + PartEntry(1).FullFileName +
-                     ": Path/File access error\n") != std::string::npos;
+    return text.find(
+               "part 1 of the cart store can't be read: " + ShownPath(PartEntry(1).FullFileName) +
+               ": Path/File access error\n") != std::string::npos;
   };
   EXPECT_FALSE(told(warnings()));
   for (int time = 0; time < 2; ++time) {
@@ -85,7 +88,8 @@ TEST_F(DayCheckTest, ADayWithoutAnyLogIsTroubleThatNamesSplitsAndFiles) {
   const DayReport report = CheckDay(kDay + 1);
   EXPECT_NE(std::string::npos, report.trouble.find("no active split has a log for 2026-11-22"));
   EXPECT_NE(std::string::npos, report.trouble.find("split 1 \"North\": "));
-  EXPECT_NE(std::string::npos, report.trouble.find(GetLogSourcePath(2, kDay + 1, false)));
+  EXPECT_NE(std::string::npos,
+            report.trouble.find(ShownPath(GetLogSourcePath(2, kDay + 1, false))));
 }
 
 TEST_F(DayCheckTest, ALogThatStopsTheCheckIsTroubleThatNamesSplitAndFile) {
@@ -95,7 +99,7 @@ TEST_F(DayCheckTest, ALogThatStopsTheCheckIsTroubleThatNamesSplitAndFile) {
   const DayReport report = CheckDay(kDay);
   EXPECT_NE(std::string::npos, report.trouble.find("Run-time error 57: Device I/O error"));
   EXPECT_NE(std::string::npos, report.trouble.find("split 2 \"South\""));
-  EXPECT_NE(std::string::npos, report.trouble.find(GetLogSourcePath(2, kDay, false)));
+  EXPECT_NE(std::string::npos, report.trouble.find(ShownPath(GetLogSourcePath(2, kDay, false))));
 }
 
 TEST_F(DayCheckTest, TheReportCountsBreaksAndAdvertsAndNamesCartsWithoutAudio) {

@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 
 #include "headless/Output.h"
+#include "tests/support/KeepReport.h"
 
 namespace logchecker {
 namespace {
@@ -32,20 +33,31 @@ DayReport Day(int32_t day) {
   return report;
 }
 
+CheckReport ReportOf(std::vector<DayReport> days) {
+  CheckReport report;
+  report.station = "C\xF4te";
+  report.settings = "/srv/C\xF4te\\x";
+  report.checkedAt = "2027-01-15T14:03:21Z";
+  report.days = std::move(days);
+  return report;
+}
+
 DayReport DayWithMismatch(int32_t day) {
   DayReport report = Day(day);
   report.results.ListItems = {{"t37800", "10:30", {{" 2:00.30"}, {"Not Found"}}}};
   report.mismatches = {{37800, {{true, 120.3F}, {false, 0}}}};
+  report.adverts = {
+      {std::vector<AdvertReport>{{4, 77, "LOST\tVOICE", "REF-1", 120.3F, true}}, std::nullopt}};
   return report;
 }
 
 TEST(Reports, CsvOfOneDayIsTheDesktopsExport) {
   EXPECT_EQ("\"Time\",\"N\xF6rth 'A'\",\"South\"\r\n\"10:30\",\"2:00.30\",\"Not Found\"\r\n",
-            CsvReport({DayWithMismatch(36526)}, false));
+            CsvReport(ReportOf({DayWithMismatch(36526)}), false));
 }
 
 TEST(Reports, CsvWithoutMismatchIsTheHeadingAlone) {
-  EXPECT_EQ("\"Time\",\"N\xF6rth 'A'\",\"South\"\r\n", CsvReport({Day(36526)}, false));
+  EXPECT_EQ("\"Time\",\"N\xF6rth 'A'\",\"South\"\r\n", CsvReport(ReportOf({Day(36526)}), false));
 }
 
 TEST(Reports, CsvOfMoreDaysPutsTheDateFirstAndTheHeadingOnce) {
@@ -53,17 +65,17 @@ TEST(Reports, CsvOfMoreDaysPutsTheDateFirstAndTheHeadingOnce) {
       "\"Date\",\"Time\",\"N\xF6rth 'A'\",\"South\"\r\n"
       "\"2000-01-01\",\"10:30\",\"2:00.30\",\"Not Found\"\r\n"
       "\"2000-01-03\",\"10:30\",\"2:00.30\",\"Not Found\"\r\n",
-      CsvReport({DayWithMismatch(36526), Day(36527), DayWithMismatch(36528)}, true));
+      CsvReport(ReportOf({DayWithMismatch(36526), Day(36527), DayWithMismatch(36528)}), true));
 }
 
-TEST(Reports, CsvLeavesADayOutThatCouldNotBeChecked) {
+TEST(Reports, CsvOfADayThatCouldNotBeCheckedIsTheHeadingAlone) {
   DayReport troubled = Day(36526);
   troubled.trouble = "no log";
-  EXPECT_EQ("", CsvReport({troubled}, false));
+  EXPECT_EQ("\"Time\",\"N\xF6rth 'A'\",\"South\"\r\n", CsvReport(ReportOf({troubled}), false));
 }
 
 TEST(Reports, TextIsATableAndThenTheCartsWithoutAudio) {
-  const std::string text = TextReport({DayWithMismatch(36526)});
+  const std::string text = TextReport(ReportOf({DayWithMismatch(36526)}));
   EXPECT_NE(std::string::npos, text.find("2000-01-01: 1 ad break did not match in all splits"));
   EXPECT_NE(std::string::npos, text.find("Time   N\xC3\xB6rth \"A\"      South\n"
                                          "10:30    2:00.30  Not Found\n"))
@@ -73,14 +85,15 @@ TEST(Reports, TextIsATableAndThenTheCartsWithoutAudio) {
 
 TEST(Reports, TextSaysThatNothingDiffersOrThatNothingWasChecked) {
   EXPECT_NE(std::string::npos,
-            TextReport({Day(36526)}).find("2000-01-01: There were no problems found.\n"));
+            TextReport(ReportOf({Day(36526)})).find("2000-01-01: There were no problems found.\n"));
   DayReport troubled = Day(36526);
   troubled.trouble = "no log";
-  EXPECT_NE(std::string::npos, TextReport({troubled}).find("2000-01-01: not checked\n"));
+  EXPECT_NE(std::string::npos,
+            TextReport(ReportOf({troubled})).find("2000-01-01: not checked: no log\n"));
 }
 
 TEST(Reports, JsonHoldsTheWholeDay) {
-  const Json json = Json::parse(JsonReport({DayWithMismatch(36526)}));
+  const Json json = Json::parse(KeepReport(JsonReport(ReportOf({DayWithMismatch(36526)}))));
   EXPECT_EQ("logcheck", json["program"]);
   const Json& day = json["days"][0];
   EXPECT_EQ("2000-01-01", day["date"]);
@@ -95,21 +108,24 @@ TEST(Reports, JsonHoldsTheWholeDay) {
                              "reference":"REF-1","position":130}])"),
             day["splits"][0]["cartsWithoutAudio"]);
   EXPECT_EQ(Json::parse(R"([{"seconds":37800.0,"time":"10:30",
-                             "lengths":[{"seconds":120.3,"text":"2:00.30"},null]}])"),
+                             "lengths":[{"seconds":120.3,"text":"2:00.30"},null],
+                             "adverts":[[{"row":4,"cart":77,"description":"LOST\tVOICE",
+                                          "reference":"REF-1","length":120.3,"audio":true}],
+                                        null]}])"),
             day["mismatches"]);
 }
 
 TEST(Reports, JsonShowsALengthThatIsNoNumberAsNull) {
   DayReport day = DayWithMismatch(36526);
   day.mismatches[0].Lengths[0].seconds = std::numeric_limits<float>::quiet_NaN();
-  const Json json = Json::parse(JsonReport({day}));
+  const Json json = Json::parse(KeepReport(JsonReport(ReportOf({day}))));
   EXPECT_TRUE(json["days"][0]["mismatches"][0]["lengths"][0]["seconds"].is_null());
 }
 
 TEST(Reports, JsonSaysWhyADayWasNotChecked) {
   DayReport troubled = Day(36526);
   troubled.trouble = "no log";
-  const Json json = Json::parse(JsonReport({troubled}));
+  const Json json = Json::parse(KeepReport(JsonReport(ReportOf({troubled}))));
   EXPECT_EQ("no log", json["days"][0]["trouble"]);
   EXPECT_FALSE(json["days"][0].contains("mismatches"));
 }

@@ -7,8 +7,10 @@
 #include <QMdiArea>
 #include <QPushButton>
 #include <QTabWidget>
+#include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 #include <cstdio>
 #include <functional>
 
@@ -95,7 +97,24 @@ void DrawMain(Painter& painter, QSize size, int splits) {
   painter.Save(window, name + "-arranged");
 }
 
+// As wide as the results begin, with more or less room for each split.
+void DrawNarrowResults(Painter& painter, int splits) {
+  frmMain window;
+  Start(window, {1180, 760}, splits);
+  window.findChild<QToolButton*>("sftCheckBreaks")->click();
+  auto* results = window.findChild<frmCheckBreaks*>();
+  painter.Save(*results, QString("results-%1-splits").arg(splits));
+  auto* list = results->findChild<QTreeView*>("lvwResults");
+  QTest::keyClick(list, Qt::Key_Down);
+  QTest::keyClick(list, Qt::Key_Return);
+  painter.Save(*results, QString("results-%1-splits-selected").arg(splits));
+  painter.Save(window, QString("main-%1-splits-lined-up").arg(splits));
+  window.LoadLogs(kToday + 2);
+  painter.Save(window, QString("main-%1-splits-other-day").arg(splits));
+}
+
 void DrawResults(Painter& painter) {
+  for (const int splits : {1, 5, kMostSplits + 0}) DrawNarrowResults(painter, splits);
   frmMain window;
   Start(window, {1180, 760}, 4);
   window.findChild<QToolButton*>("sftCheckBreaks")->click();

@@ -553,5 +553,21 @@ TEST_F(FilesTest, EitherSeparatorServes) {
   EXPECT_EQ(files_.FileLength(folder_.Path() + "/sub/file.txt", &length), kNoError);
 }
 
+TEST_F(FilesTest, AStampTellsAChangedFileFromTheSame) {
+  const std::string path = folder_.Path("file.txt");
+  EXPECT_EQ(files_.StampOf(path).error, kFileNotFound);
+  folder_.WriteFile("file.txt", "abc");
+  const FileStamp first = files_.StampOf(path);
+  EXPECT_EQ(first.error, kNoError);
+  EXPECT_EQ(first.size, 3);
+  EXPECT_EQ(first, files_.StampOf(path));
+  folder_.WriteFile("file.txt", "abcd");
+  EXPECT_NE(first, files_.StampOf(path));
+  const FileStamp folder = files_.StampOf(folder_.Path());
+  EXPECT_TRUE(folder.isDirectory);
+  folder_.WriteFile("other.txt", "");
+  EXPECT_EQ(folder, files_.StampOf(folder_.Path())) << "what it holds does not count";
+}
+
 }  // namespace
 }  // namespace logchecker

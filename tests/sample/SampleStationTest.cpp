@@ -249,6 +249,77 @@ TEST_F(SampleStationTest, TheSettingsOfAnotherStationAreNotReplaced) {
   Write({});  // its own it does
 }
 
+TEST_F(SampleStationTest, DrawnMistakesAreFoundEachByTheCheck) {
+  for (const SampleSizes& sizes : {SampleSizes{1, 60, 5}, SampleSizes{2, 30, 3},
+                                   SampleSizes{5, 60, 5}, SampleSizes{3, 1440, 8}}) {
+    for (const int32_t mistakes : {0, 1, 30}) {
+      SampleStation station;
+      station.firstDay = kDay;
+      station.sizes = sizes;
+      station.mistakes = mistakes;
+      station.seed = 7;
+      WriteSampleStation(folder().Path("station"), station);
+      Open();
+      const DayReport report = CheckDay(kDay);
+      const std::vector<SampleMistake> planted = MistakesOf(PlanSample(station), kDay);
+      ASSERT_EQ(static_cast<size_t>(mistakes), planted.size());
+      size_t rows = 0;
+      size_t silent = 0;
+      for (const SampleMistake& mistake : planted) {
+        silent += mistake.kind == SampleMistake::kNoAudio;
+        if (sizes.splits > 1) rows += mistake.kind == SampleMistake::kLate ? 2 : 1;
+      }
+      EXPECT_EQ(rows, report.mismatches.size());
+      size_t found = 0;
+      for (const SplitReport& split : report.splits) found += split.silentAdverts.size();
+      EXPECT_EQ(silent, found);
+      EXPECT_TRUE(Contains(
+          folder().ReadFile("station/SAMPLE.TXT"),
+          "\n" + std::to_string(mistakes) + " mistakes planted on each day, drawn with seed 7.\n"));
+      CloseStation();
+      ResetGlobals();
+    }
+  }
+}
+
+TEST_F(SampleStationTest, TheLastDaysHaveNoLogWhereThatIsAsked) {
+  SampleStation station;
+  station.firstDay = kDay;
+  station.days = 3;
+  station.missingDays = 2;
+  WriteSampleStation(folder().Path("station"), station);
+  Open();
+  EXPECT_FALSE(CheckDay(kDay).noLogYet);
+  EXPECT_TRUE(CheckDay(kDay + 1).noLogYet);
+  EXPECT_TRUE(CheckDay(kDay + 2).noLogYet);
+  EXPECT_TRUE(Contains(folder().ReadFile("station/SAMPLE.TXT"),
+                       "\nThere are no logs yet for the last 2 days.\n"));
+}
+
+TEST_F(SampleStationTest, AnotherSeedDrawsAnotherStation) {
+  SampleStation station;
+  station.firstDay = kDay;
+  station.mistakes = 10;
+  WriteSampleStation(folder().Path("station"), station);
+  const std::string first = folder().ReadFile("station/logs/Larkfield/261121.LOG");
+  WriteSampleStation(folder().Path("station"), station);
+  EXPECT_EQ(first, folder().ReadFile("station/logs/Larkfield/261121.LOG"));
+  station.seed = 1;
+  WriteSampleStation(folder().Path("station"), station);
+  EXPECT_NE(first, folder().ReadFile("station/logs/Larkfield/261121.LOG"));
+}
+
+TEST_F(SampleStationTest, MoreMistakesThanBreaksAreRefused) {
+  SampleStation station;
+  station.firstDay = kDay;
+  station.mistakes = 61;
+  EXPECT_THROW(WriteSampleStation(folder().Path("station"), station), Trouble);
+  station.mistakes = 60;
+  station.missingDays = 2;
+  EXPECT_THROW(WriteSampleStation(folder().Path("station"), station), Trouble);
+  EXPECT_FALSE(folder().Exists("station"));
+}
+
 TEST_F(SampleStationTest, AWriteThatFailsIsTroubleWhicheverItIs) {
   int n = 0;
   bool failed = true;

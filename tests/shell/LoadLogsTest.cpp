@@ -1,6 +1,7 @@
 #include "shell/LoadLogs.h"
 
 #include "common/ErrorState.h"
+#include "common/PathText.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/support/StationTest.h"
@@ -64,8 +65,8 @@ TEST_F(LoadLogsTest, ALogThatCannotBeReadStopsTheDayAndNamesItsSplit) {
     ADD_FAILURE();
   } catch (const RunTimeError& error) {
     EXPECT_EQ(kBadFileNumber, error.number());
-    EXPECT_NE(std::string::npos,
-              error.concerning().find("split 3 \"West\", " + SettingsOf(3).CurrentLogPath));
+    EXPECT_NE(std::string::npos, error.concerning().find("split 3 \"West\", " +
+                                                         ShownPath(SettingsOf(3).CurrentLogPath)));
   }
   EXPECT_EQ(kDay, CurrentLogDate);
   EXPECT_EQ(5, gSplits(1).gridLog.Rows());

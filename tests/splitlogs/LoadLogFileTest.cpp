@@ -3,6 +3,7 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ErrorState.h"
 #include "common/GeneralSettings.h"
+#include "common/PathText.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
@@ -192,7 +193,7 @@ TEST_F(LoadLogFileTest, ALogThatCannotBeOpenedStopsTheProgramAndIsNamed) {
   std::string text;
   EXPECT_EQ(kBadFileNumber, LoadStops(Line("06:00", 1), &text));
   EXPECT_NE(std::string::npos, text.find("split 1 \"North\""));
-  EXPECT_NE(std::string::npos, text.find(GetLogSourcePath(1, kDay, false)));
+  EXPECT_NE(std::string::npos, text.find(ShownPath(GetLogSourcePath(1, kDay, false))));
 }
 
 TEST_F(LoadLogFileTest, APartOfALogThatCannotBeReadStopsTheProgram) {

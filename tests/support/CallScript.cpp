@@ -14,6 +14,11 @@ void CallScript::FailNamed(const std::string& name, int n, int32_t error) {
 void CallScript::Clear() { *this = CallScript(); }
 
 int32_t CallScript::Enter(const char* name) {
+  if (onCall && !isTelling_) {
+    isTelling_ = true;
+    onCall(name);
+    isTelling_ = false;
+  }
   calls_.emplace_back(name);
   const int count = ++counts_[name];
   int32_t error = static_cast<int>(calls_.size()) == failAt_ ? failWith_ : 0;

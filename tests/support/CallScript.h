@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -15,6 +16,9 @@ class CallScript {
   // The n-th call of this name fails; with n 0, every one. Names are such as "Files.OpenForInput".
   void FailNamed(const std::string& name, int n, int32_t error);
   void Clear();
+
+  // Called at the beginning of each call, with its name. Calls of its own are not told.
+  std::function<void(const char* name)> onCall;
 
   // Takes a call down. The error that it is to fail with, or 0.
   int32_t Enter(const char* name);
@@ -36,6 +40,7 @@ class CallScript {
   std::map<std::string, int> counts_;
   std::vector<std::string> calls_;
   bool hasFailed_ = false;
+  bool isTelling_ = false;
 };
 
 }  // namespace logchecker

@@ -89,6 +89,11 @@ class ScriptedFiles : public Files {
     const int32_t error = script_.Enter("Files.FileDateTime");
     return error != 0 ? error : real_.FileDateTime(path, dateTime);
   }
+  FileStamp StampOf(const std::string& path) override {
+    FileStamp stamp;
+    stamp.error = script_.Enter("Files.StampOf");
+    return stamp.error != 0 ? stamp : real_.StampOf(path);
+  }
   int32_t ProbeFile(const std::string& path) override {
     const int32_t error = script_.Enter("Files.ProbeFile");
     return error != 0 ? error : real_.ProbeFile(path);

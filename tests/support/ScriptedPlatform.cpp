@@ -111,6 +111,7 @@ class SettableClock : public Clock {
   SettableClock(Clock& real, const std::optional<double>& now) : real_(real), now_(now) {}
 
   double Now() override { return now_ ? *now_ : real_.Now(); }
+  double UtcNow() override { return now_.value_or(real_.UtcNow()); }
   std::string ShortDate(int32_t day) override { return real_.ShortDate(day); }
   std::string LongDate(int32_t day) override { return real_.LongDate(day); }
   std::string MonthName(int32_t month, bool abbreviated) override {
@@ -181,6 +182,30 @@ class SettableSystemFacts : public SystemFacts {
   const std::optional<std::string>& programFolder_;
 };
 
+class ScriptedProcesses : public Processes {
+ public:
+  ScriptedProcesses(Processes& real, CallScript& script) : real_(real), script_(script) {}
+
+  int32_t Processors() override { return real_.Processors(); }
+  int32_t Start(const ChildOrder& order, int32_t* child) override {
+    const int32_t error = script_.Enter("Processes.Start");
+    return error != 0 ? error : real_.Start(order, child);
+  }
+  int32_t Wait(int32_t* child, ChildEnd* end) override {
+    const int32_t error = script_.Enter("Processes.Wait");
+    return error != 0 ? error : real_.Wait(child, end);
+  }
+  int32_t ReadOutput(int32_t child, int64_t position, std::string_view* bytes) override {
+    const int32_t error = script_.Enter("Processes.ReadOutput");
+    return error != 0 ? error : real_.ReadOutput(child, position, bytes);
+  }
+  void Release(int32_t child) override { real_.Release(child); }
+
+ private:
+  Processes& real_;
+  CallScript& script_;
+};
+
 }  // namespace
 
 struct ScriptedPlatform::Parts {
@@ -194,7 +219,9 @@ struct ScriptedPlatform::Parts {
         waveDevices(RealPlatform().waveDevices, owner.script, owner.waveOutFormats,
                     owner.waveInFormats),
         system(RealPlatform().system, owner.programFolder),
-        platform{files, directories, shell, profiles, registry, clock, waveDevices, system} {}
+        processes(RealPlatform().processes, owner.script),
+        platform{files, directories, shell,  profiles, registry,
+                 clock, waveDevices, system, processes} {}
 
   ScriptedFiles files;
   ScriptedDirectories directories;
@@ -204,6 +231,7 @@ struct ScriptedPlatform::Parts {
   SettableClock clock;
   SettableWaveDevices waveDevices;
   SettableSystemFacts system;
+  ScriptedProcesses processes;
   Platform platform;
 };
 

@@ -5,6 +5,8 @@
 #include <random>
 #include <stdexcept>
 
+#include "tests/support/KeepReport.h"
+
 namespace logchecker {
 
 namespace {
@@ -41,7 +43,7 @@ void TempFolder::WriteFile(std::string_view name, std::string_view bytes) const 
 std::string TempFolder::ReadFile(std::string_view name) const {
   std::ifstream file(folder_ / name, std::ios::binary);
   if (!file) throw std::runtime_error("a test's file can't be read");
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  return KeepReport({std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
 }
 
 bool TempFolder::Exists(std::string_view name) const {

@@ -20,7 +20,8 @@ class TempFolder {
   // The same with a separator and `name` behind it.
   std::string Path(std::string_view name) const;
 
-  // The bytes of a file in the folder, without the platform's help.
+  // The bytes of a file in the folder, without the platform's help. A JSON report among what is
+  // read is kept (see KeepReport.h).
   void WriteFile(std::string_view name, std::string_view bytes) const;
   std::string ReadFile(std::string_view name) const;
 

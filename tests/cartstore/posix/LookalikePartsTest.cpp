@@ -5,6 +5,7 @@
 
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/Lookalikes.h"
+#include "common/PathText.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
@@ -21,9 +22,9 @@ class LookalikePartsTest : public StationTest {
   }
   std::string Told(const std::string& path, const std::string& taken,
                    const std::string& other) const {
-    return "The name \"" + path + "\" fits two entries that differ only in capital letters:\n\"" +
-           Path(taken) + "\" is used, and \"" + Path(other) +
-           "\" is not.\nPlease rename one of them.";
+    return "The name \"" + ShownPath(path) +
+           "\" fits two entries that differ only in capital letters:\n\"" + Path(taken) +
+           "\" is used, and \"" + Path(other) + "\" is not.\nPlease rename one of them.";
   }
 };
 

@@ -40,7 +40,10 @@ TEST(StationPaths, DrivesSharesAndUpperCaseLeadToTheSampleStation) {
   const ProgramResult after =
       RunProgram("logcheck", "--settings '" + station + "' --format csv" + date, folder);
   EXPECT_EQ(before, after.output);
-  EXPECT_EQ("", after.errors);
+  EXPECT_EQ(
+      "logcheck: warning: split 4 \"Coast\": 1 advert without audio at 16:01: cart 3950 TARN "
+      "DAIRIES\n",
+      after.errors);
   EXPECT_EQ(1, after.exitCode);
 }
 

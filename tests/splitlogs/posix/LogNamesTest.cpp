@@ -30,7 +30,7 @@ TEST_F(LogNamesTest, AFolderThatCouldBeTwoIsToldAtTheFirstLoad) {
     ASSERT_EQ(1U, ui.messages.size());
   }
   EXPECT_EQ("The name \"" + Path("LOGS1") +
-                "\\260302.LOG\" fits two entries that differ only in capital letters:\n\"" +
+                "/260302.LOG\" fits two entries that differ only in capital letters:\n\"" +
                 Path("Logs1") + "\" is used, and \"" + Path("logs1") +
                 "\" is not.\nPlease rename one of them.",
             ui.messages[0].text);

@@ -1,8 +1,7 @@
-// The reports that are tables: for people, and as CSV.
+// The report for people.
 #include <algorithm>
 
-#include "checking/ExportListViewToCSV.h"
-#include "common/DatePicture.h"
+#include "headless/DayName.h"
 #include "headless/Output.h"
 #include "headless/Reports.h"
 
@@ -54,45 +53,44 @@ std::string SilentAdvertLines(const SplitReport& split) {
   return lines;
 }
 
-std::string DayText(const DayReport& day) {
-  std::string text = FieldText(FormatDate(day.day, "dddd").value_or("")) + " " + IsoDate(day.day);
-  if (!day.trouble.empty()) return text + ": not checked\n";
-  const size_t count = day.results.ListItems.size();
-  if (count == 0) {
-    text += ": There were no problems found.\n";
-  } else {
-    text += ": " + std::to_string(count) + (count == 1 ? " ad break did" : " ad breaks did") +
-            " not match in all splits\n\n";
-    text += Table(day.results);
+// What is told below the table; adverts without audio have a list of their own.
+std::string WarningLines(const DayReport& day) {
+  std::string lines;
+  for (const Warning& warning : day.warnings) {
+    if (warning.kind == WarningKind::kSilent) continue;
+    if (lines.empty()) lines = "\nWarnings\n";
+    lines += "  " + FieldText(warning.text) + "\n";
   }
-  for (const SplitReport& split : day.splits) text += SilentAdvertLines(split);
-  return text;
+  return lines;
+}
+
+std::string Verdict(const DayReport& day) {
+  const size_t count = day.results.ListItems.size();
+  if (count > 0) {
+    return std::to_string(count) + (count == 1 ? " ad break did" : " ad breaks did") +
+           " not match in all splits\n\n" + Table(day.results);
+  }
+  if (day.warnings.empty()) return "There were no problems found.\n";
+  return "The breaks that were compared match, but see below.\n";
+}
+
+std::string DayText(const DayReport& day) {
+  std::string text = DayName(day.day) + ": ";
+  if (day.trouble.empty()) {
+    text += Verdict(day);
+    for (const SplitReport& split : day.splits) text += SilentAdvertLines(split);
+  } else {
+    text += "not checked: " + FieldText(day.trouble) + "\n";
+  }
+  return text + WarningLines(day);
 }
 
 }  // namespace
 
-std::string TextReport(const std::vector<DayReport>& days) {
-  std::string text;
-  for (const DayReport& day : days) text += (text.empty() ? "" : "\n") + DayText(day);
+std::string TextReport(const CheckReport& report) {
+  std::string text = "Station: " + FieldText(report.station) + "\n";
+  for (const DayReport& day : report.days) text += "\n" + DayText(day);
   return text;
-}
-
-std::string CsvReport(const std::vector<DayReport>& days, bool withDate) {
-  std::string csv;
-  for (const DayReport& day : days) {
-    if (!day.trouble.empty()) continue;
-    ListView list = day.results;
-    if (withDate) list.ColumnHeaders.insert(list.ColumnHeaders.begin(), {"Date"});
-    if (csv.empty()) csv = CSVHeading(list, ",");
-    for (ListItem& row : list.ListItems) {
-      if (withDate) {
-        row.ListSubItems.insert(row.ListSubItems.begin(), {row.text});
-        row.text = IsoDate(day.day);
-      }
-      csv += CSVRow(list, row, ",");
-    }
-  }
-  return csv;
 }
 
 }  // namespace logchecker
