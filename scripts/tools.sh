@@ -45,6 +45,7 @@ test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidchec
   libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
   fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest python3)
+windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)

@@ -33,7 +33,7 @@ void LogCellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& optio
 // Each cell draws its share of the border around the block.
 void LogCellDelegate::DrawBorder(QPainter* painter, const QStyleOptionViewItem& option,
                                  const QModelIndex& index) const {
-  const auto [first, last] = std::minmax(grid_.Row(), grid_.SelectionEndRow());
+  const auto [first, last] = std::minmax({grid_.Row(), grid_.SelectionEndRow()});
   const int32_t row = index.row() + 1;
   const QRect& cell = option.rect;
   painter->save();
