@@ -12,7 +12,7 @@ namespace logchecker {
 
 namespace {
 
-constexpr float kNoPosition = -1;
+constexpr float kNoDrag = -1;
 constexpr float kDragThreshold = 30;  // twips
 constexpr int32_t kMaskMinutesSeconds = 3;
 
@@ -27,7 +27,7 @@ void FindCart::Load() {
   input = FindCartInput();
   view_ = FindCartView();
   results_ = FoundCarts();
-  dragStartX_ = dragStartY_ = kNoPosition;
+  dragStartX_ = dragStartY_ = kNoDrag;
 }
 
 void FindCart::Activate() {
@@ -223,15 +223,15 @@ void FindCart::MouseDown(bool leftButton, float x, float y) {
 
 std::optional<std::string> FindCart::MouseMove(bool leftHeld, float x, float y) {
   const std::optional<size_t> row = results_.SelectedRow();
-  if (!leftHeld || dragStartX_ == kNoPosition || !row) return std::nullopt;
+  if (!leftHeld || dragStartX_ == kNoDrag || !row) return std::nullopt;
   if (IsPointInTolerance(x, y, dragStartX_, dragStartY_, kDragThreshold)) return std::nullopt;
   const int32_t cartNumber = results_.Row(*row).Number();
   if (cartNumber <= 0) return std::nullopt;
-  dragStartX_ = dragStartY_ = kNoPosition;
+  dragStartX_ = dragStartY_ = kNoDrag;
   return std::to_string(cartNumber);
 }
 
-void FindCart::MouseUp() { dragStartX_ = dragStartY_ = kNoPosition; }
+void FindCart::MouseUp() { dragStartX_ = dragStartY_ = kNoDrag; }
 
 void FindCart::ShowProgress(int32_t cartNumber) {
   view_.ProgressCart = cartNumber;

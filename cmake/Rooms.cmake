@@ -10,6 +10,10 @@ target_compile_options(logchecker_flags INTERFACE
 # GCC 12 takes the library's own string concatenation for an overlapping copy.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   target_compile_options(logchecker_flags INTERFACE -Wno-restrict)
+  if(CMAKE_UNITY_BUILD)
+    # It takes a source that another one includes for a header.
+    target_compile_options(logchecker_flags INTERFACE -Wno-subobject-linkage)
+  endif()
 endif()
 if(LOGCHECKER_SANITIZE)
   target_compile_options(logchecker_flags INTERFACE

@@ -31,7 +31,7 @@ class Reader {
 };
 
 // Moves the digits at the reader into `number` as far as there is room; true if there was one.
-struct Digits {
+struct DigitRun {
   char* next;
   char* end;
 
@@ -70,7 +70,7 @@ double Val(std::string_view text) {
   if (ReadPlainNumber(text, &plain)) return plain;
   // Longer numbers than this are cut: what is left is far beyond the precision of the result.
   char number[512];
-  Digits digits{number, number + sizeof number};
+  DigitRun digits{number, number + sizeof number};
   Reader reader(text);
   if (reader.Peek() == '-') digits.Add('-');
   if (reader.Peek() == '-' || reader.Peek() == '+') reader.Next();

@@ -67,7 +67,7 @@ class DayDifference {
     if (now.trouble.empty()) {
       Add(Kind::kTroubleOver, "can be checked again");
     } else {
-      Add(Kind::kTrouble, "not checked: " + now.trouble);
+      Add(Kind::kNotChecked, "not checked: " + now.trouble);
     }
   }
 
@@ -175,7 +175,7 @@ const char* NameOf(WatchEventKind kind) {
       return "day";
     case Kind::kDayOver:
       return "day-over";
-    case Kind::kTrouble:
+    case Kind::kNotChecked:
       return "trouble";
     case Kind::kTroubleOver:
       return "trouble-over";

@@ -12,7 +12,7 @@ namespace logchecker {
 enum class WatchEventKind {
   kDay,              // a day is watched from here on
   kDayOver,          // and no longer
-  kTrouble,          // a day can't be checked
+  kNotChecked,       // a day can't be checked
   kTroubleOver,      // it can again
   kLog,              // a split's log arrived
   kLogGone,          // and is gone

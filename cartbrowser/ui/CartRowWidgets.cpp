@@ -22,13 +22,6 @@ QColor TextOn(const QColor& background) {
   return qGray(background.rgb()) < kMiddle ? Qt::white : Qt::black;
 }
 
-float XInTwips(const QMouseEvent& event) {
-  return static_cast<float>(event.position().x() * kTwipsPerPixel);
-}
-float YInTwips(const QMouseEvent& event) {
-  return static_cast<float>(event.position().y() * kTwipsPerPixel);
-}
-
 }  // namespace
 
 CartNumberButton::CartNumberButton(CartBrowser& browser, int16_t row, QWidget* parent)

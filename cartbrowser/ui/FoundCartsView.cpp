@@ -21,13 +21,6 @@ namespace {
 
 constexpr int kAddedDelay = 50;  // milliseconds
 
-float XInTwips(const QMouseEvent& event) {
-  return static_cast<float>(event.position().x() * kTwipsPerPixel);
-}
-float YInTwips(const QMouseEvent& event) {
-  return static_cast<float>(event.position().y() * kTwipsPerPixel);
-}
-
 }  // namespace
 
 FoundCartsView::FoundCartsView(QWidget* parent) : QTreeView(parent) {

@@ -36,7 +36,7 @@ BoardDay BoardDayOf(ReadDay&& day, size_t origin) {
 PageState StateOf(const BoardDay& day, bool isTooOld) {
   if (isTooOld) return PageState::kOld;
   if (day.noLogYet) return PageState::kNoLog;
-  if (day.code >= kTrouble || !day.trouble.empty()) return PageState::kTrouble;
+  if (day.code >= kTrouble || !day.trouble.empty()) return PageState::kNotChecked;
   if (day.code == kAllMatch) return PageState::kMatch;
   return day.counts.mismatches > 0 ? PageState::kDiffers : PageState::kSee;
 }
@@ -45,9 +45,9 @@ PageState StateOf(const BoardDay& day, bool isTooOld) {
 using Badness = std::tuple<size_t, size_t, size_t, size_t, size_t, int64_t>;
 
 Badness BadnessOf(const BoardStation& station) {
-  return {CountDays(station, PageState::kTrouble), CountDays(station, PageState::kOld),
-          CountDays(station, PageState::kDiffers), CountDays(station, PageState::kSee),
-          CountDays(station, PageState::kNoLog),   CountMismatches(station)};
+  return {CountDays(station, PageState::kNotChecked), CountDays(station, PageState::kOld),
+          CountDays(station, PageState::kDiffers),    CountDays(station, PageState::kSee),
+          CountDays(station, PageState::kNoLog),      CountMismatches(station)};
 }
 
 // Letters of the Latin alphabet in either case, so that names stand where a person looks for them.

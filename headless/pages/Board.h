@@ -21,7 +21,7 @@ inline constexpr size_t kLongestTextOnABoard = 500;  // characters
 
 // A day of a station. All texts are UTF-8.
 struct BoardDay {
-  PageState state = PageState::kTrouble;
+  PageState state = PageState::kNotChecked;
   int code = 0;         // of the report, see Verdict.h
   size_t origin = 0;    // of Board::Origins
   std::string trouble;  // why it was not checked
@@ -96,8 +96,8 @@ size_t CountDays(const BoardStation& station, PageState state);
 int64_t CountMismatches(const BoardStation& station);
 
 // The states from the worst on.
-inline constexpr PageState kStatesFromTheWorst[] = {PageState::kTrouble, PageState::kOld,
-                                                    PageState::kDiffers, PageState::kSee,
-                                                    PageState::kNoLog,   PageState::kMatch};
+inline constexpr PageState kStatesFromTheWorst[] = {PageState::kNotChecked, PageState::kOld,
+                                                    PageState::kDiffers,    PageState::kSee,
+                                                    PageState::kNoLog,      PageState::kMatch};
 
 }  // namespace logchecker

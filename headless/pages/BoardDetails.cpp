@@ -10,7 +10,7 @@ namespace logchecker {
 
 namespace {
 
-constexpr size_t kLongestName = 120;  // characters, in a heading
+constexpr size_t kLongestHeadingName = 120;  // characters, in a heading
 constexpr size_t kMostSources = 5;
 
 bool AllMatch(const BoardStation& station) {
@@ -73,7 +73,7 @@ void AddOrigins(std::string& html, const Board& board, const BoardStation& stati
 
 void AddStation(std::string& html, const Board& board, size_t place) {
   const BoardStation& station = board.Stations()[place];
-  const std::string shortName = Shortened(station.name, kLongestName);
+  const std::string shortName = Shortened(station.name, kLongestHeadingName);
   html += std::string("<section") + (AllMatch(station) ? " class=\"all-right\"" : "") +
           "><h3 id=\"" + StationId(place) + "\">" + Isolated(shortName) + "</h3>\n";
   if (shortName != station.name) html += "<div>" + Folded(station.name) + "</div>\n";

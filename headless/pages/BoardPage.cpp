@@ -13,7 +13,7 @@ namespace logchecker {
 namespace {
 
 constexpr size_t kMostWorstStations = 10;
-constexpr size_t kLongestName = 80;  // characters, in a list
+constexpr size_t kLongestListName = 80;  // characters, in a list
 
 std::string Title(const Board& board, const BoardHead& head) {
   if (!head.title.empty()) return head.title;
@@ -67,7 +67,7 @@ std::string Count(PageState state, size_t days, const std::string& words) {
 void AddCounts(std::string& html, const Board& board) {
   html += "<ul class=\"counts\">\n";
   if (!board.Failures().empty()) {
-    html += Count(PageState::kTrouble, board.Failures().size(),
+    html += Count(PageState::kNotChecked, board.Failures().size(),
                   std::string("<a href=\"#unread\">") +
                       (board.Failures().size() == 1 ? "report" : "reports") + " unreadable</a>");
   }
@@ -96,7 +96,7 @@ void AddWorstStations(std::string& html, const Board& board) {
   const size_t shown = std::min(static_cast<size_t>(needing), kMostWorstStations);
   for (size_t i = 0; i < shown; ++i) {
     html += "<li><a href=\"#" + StationId(i) + "\">" +
-            Isolated(Shortened(stations[i].name, kLongestName)) +
+            Isolated(Shortened(stations[i].name, kLongestListName)) +
             "</a>: " + StationWords(stations[i]) + "</li>\n";
   }
   html += "</ol>\n";
@@ -123,8 +123,8 @@ std::string SetAsideText(const BoardOrigin& origin, const BoardOrigin& winner) {
             ")";
   }
   std::string html =
-      Isolated(origin.source) + ": " + Isolated(Shortened(origin.station, kLongestName)) + ", " +
-      days + ", checked " + HtmlText(MomentText(origin.checkedAt)) + "; " +
+      Isolated(origin.source) + ": " + Isolated(Shortened(origin.station, kLongestListName)) +
+      ", " + days + ", checked " + HtmlText(MomentText(origin.checkedAt)) + "; " +
       Isolated(winner.source) + " counts, checked " + HtmlText(MomentText(winner.checkedAt));
   if (origin.settings != winner.settings) {
     html += ". Their settings lie in two folders, " + Isolated(origin.settings) + " and " +

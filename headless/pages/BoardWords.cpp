@@ -84,7 +84,7 @@ std::string WordsOfDays(size_t days, PageState state) {
       return noun + (days == 1 ? "differs" : "differ");
     case PageState::kSee:
       return noun + "to mend";
-    case PageState::kTrouble:
+    case PageState::kNotChecked:
       return noun + "not checked";
     case PageState::kNoLog:
       return noun + "without a log yet";
@@ -102,7 +102,7 @@ std::string CellWords(const BoardDay& day) {
     case PageState::kMatch:
       if (day.counts.mismatches > 0) return Grouped(day.counts.mismatches) + " accepted";
       return Warnings(day) > 0 ? "match, noted" : "match";
-    case PageState::kTrouble:
+    case PageState::kNotChecked:
       return "not checked";
     case PageState::kNoLog:
       return "no log yet";

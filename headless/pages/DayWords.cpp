@@ -26,7 +26,7 @@ DayVerdict VerdictOnMismatches(const DayReport& day, int code) {
 
 DayVerdict VerdictOf(const DayReport& day, const std::vector<WarningKind>& accepted) {
   if (day.noLogYet) return {PageState::kNoLog, "No log yet"};
-  if (!day.trouble.empty()) return {PageState::kTrouble, "Not checked"};
+  if (!day.trouble.empty()) return {PageState::kNotChecked, "Not checked"};
   if (std::any_of(day.mismatches.begin(), day.mismatches.end(), HasNoTime)) {
     return {PageState::kDiffers, std::string("Not compared: ") + kNotCompared};
   }

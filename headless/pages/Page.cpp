@@ -17,7 +17,7 @@ const char* SignOf(PageState state) {
       return "\xE2\x89\xA0";  // not equal
     case PageState::kSee:
       return "!";
-    case PageState::kTrouble:
+    case PageState::kNotChecked:
       return "\xC3\x97";  // times
     case PageState::kNoLog:
       return "\xE2\x80\x93";  // dash
@@ -36,7 +36,7 @@ const char* ClassOf(PageState state) {
       return "differs";
     case PageState::kSee:
       return "see";
-    case PageState::kTrouble:
+    case PageState::kNotChecked:
       return "trouble";
     case PageState::kNoLog:
       return "no-log";

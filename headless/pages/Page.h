@@ -19,12 +19,12 @@ std::string WholePage(const Page& page);
 
 // What a day, or a station, has come to. Each has a colour, a sign and words.
 enum class PageState {
-  kMatch,    // all compared, and all right
-  kDiffers,  // a mismatch
-  kSee,      // something else for a person to mend
-  kTrouble,  // could not be checked
-  kNoLog,    // no log yet
-  kOld,      // too old to be believed
+  kMatch,       // all compared, and all right
+  kDiffers,     // a mismatch
+  kSee,         // something else for a person to mend
+  kNotChecked,  // could not be checked
+  kNoLog,       // no log yet
+  kOld,         // too old to be believed
 };
 
 // "match", "differs", "see", "trouble", "no-log", "old": the class that gives the colour.

@@ -10,8 +10,8 @@ namespace logchecker {
 
 namespace {
 
-constexpr double kWidest = 31680;  // twips
-constexpr double kPercent = 100;
+constexpr double kWidest = 31680;    // twips
+constexpr double kWholeScale = 100;  // per cent
 
 // No other reader may look at the bytes: some would follow what they find in them.
 const char* FormatOf(PictureKind kind) {
@@ -27,7 +27,7 @@ const char* FormatOf(PictureKind kind) {
 
 double LengthOf(int32_t goal, int32_t scale, int pixels) {
   const double natural = goal > 0 ? goal : ToTwips(pixels);
-  const double twips = natural * (scale > 0 ? scale : kPercent) / kPercent;
+  const double twips = natural * (scale > 0 ? scale : kWholeScale) / kWholeScale;
   return NotePixels(qRound(qBound<double>(kTwipsPerPixel, twips, kWidest)));
 }
 

@@ -16,7 +16,7 @@ namespace logchecker {
 
 namespace {
 
-constexpr int kTwipsPerInch = 1440;
+constexpr int kInch = 1440;  // twips
 
 // Leaves what lies between the two positions.
 void KeepOnly(QTextDocument& document, int begin, int end) {
@@ -90,7 +90,7 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
   // A line on the edge would be on this page and the next.
   constexpr double kEdge = 0.5;
   const QSizeF page = document.pageSize();
-  const double scale = painter.device()->logicalDpiX() / NotePixels(kTwipsPerInch);
+  const double scale = painter.device()->logicalDpiX() / NotePixels(kInch);
   QAbstractTextDocumentLayout::PaintContext context;
   context.palette.setColor(QPalette::Text, Qt::black);
   context.clip = QRectF(0, number * page.height(), page.width(), page.height() - kEdge);
@@ -107,8 +107,8 @@ void DrawPage(QPainter& painter, const QTextDocument& document, int number) {
 void PrintNote(const QTextDocument& note, const std::optional<NotePart>& part, QPrinter& printer,
                const QString& name) {
   PrintJob job(printer, name);
-  const QSizeF page = printer.pageRect(QPrinter::DevicePixel).size() / printer.resolution() *
-                      NotePixels(kTwipsPerInch);
+  const QSizeF page =
+      printer.pageRect(QPrinter::DevicePixel).size() / printer.resolution() * NotePixels(kInch);
   const std::unique_ptr<QTextDocument> pages = PagesOf(note, part, page);
   job.Send({pages->pageCount(),
             [&pages](QPainter& painter, int number) { DrawPage(painter, *pages, number); }});

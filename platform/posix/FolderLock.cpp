@@ -16,7 +16,7 @@ namespace logchecker {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 
 // Short beside any disk's write: a program that writes key after key lets go of the folder only for
 // moments, and one that looks seldom would miss them all.
@@ -37,23 +37,23 @@ class Sign {
   Sign& operator=(const Sign&) = delete;
 
   void Look() {
-    if (given_ || Clock::now() - start_ < kUnnoticed) return;
+    if (given_ || SteadyClock::now() - start_ < kUnnoticed) return;
     given_ = true;
     GiveWaitSign(true);
   }
 
  private:
-  Clock::time_point start_ = Clock::now();
+  SteadyClock::time_point start_ = SteadyClock::now();
   bool given_ = false;
 };
 
 enum class Outcome { kLocked, kTaken, kImpossible };
 
-Outcome LockUntil(int file, Clock::time_point end) {
+Outcome LockUntil(int file, SteadyClock::time_point end) {
   Sign sign;
   while (flock(file, LOCK_EX | LOCK_NB) != 0) {
     if (errno != EWOULDBLOCK && errno != EINTR) return Outcome::kImpossible;
-    if (Clock::now() >= end) return Outcome::kTaken;
+    if (SteadyClock::now() >= end) return Outcome::kTaken;
     sign.Look();
     nanosleep(&kPause, nullptr);
   }
@@ -71,7 +71,7 @@ int OpenToLock(const std::string& path) {
 
 FolderLock::FolderLock(const std::string& hostPath, int patience) {
   if (gLastWaitWasInVain) patience = 0;
-  const Moment end = Clock::now() + std::chrono::milliseconds(patience);
+  const Moment end = SteadyClock::now() + std::chrono::milliseconds(patience);
   const std::string file = FollowLinks(hostPath);
   // Always in this order, or two programs could wait for each other.
   const bool free = LockFolder(file, end) && LockFile(file, end);

@@ -101,7 +101,7 @@ std::vector<std::string> PlainCheck() {
 }
 
 // Minutes of the day with the carts of the break there, in the order of the grid.
-using Day = std::vector<std::pair<int, std::vector<int>>>;
+using RandomDay = std::vector<std::pair<int, std::vector<int>>>;
 
 std::vector<int> RandomCarts() {
   std::vector<int> carts(*rc::gen::inRange<size_t>(1, 4));
@@ -109,8 +109,8 @@ std::vector<int> RandomCarts() {
   return carts;
 }
 
-Day RandomDay() {
-  Day day;
+RandomDay AnyDay() {
+  RandomDay day;
   const int breaks = *rc::gen::inRange(0, 12);
   for (int i = 0; i < breaks; ++i) {
     const int minute = *rc::gen::weightedOneOf<int>(
@@ -122,8 +122,8 @@ Day RandomDay() {
 
 // What another split makes of the same day: most breaks as planned, some with another cart, some a
 // minute late, some missing, some twice.
-Day Variant(const Day& plan) {
-  Day day;
+RandomDay Variant(const RandomDay& plan) {
+  RandomDay day;
   for (const auto& [minute, carts] : plan) {
     const int fate = *rc::gen::weightedElement<int>({{16, 0}, {2, 1}, {1, 2}, {1, 3}, {1, 4}});
     if (fate == 3) continue;
@@ -134,7 +134,7 @@ Day Variant(const Day& plan) {
   return day;
 }
 
-void FillGrid(LogGrid& grid, Day day, bool ordered) {
+void FillGrid(LogGrid& grid, RandomDay day, bool ordered) {
   const auto earlier = [](const auto& a, const auto& b) { return a.first < b.first; };
   if (ordered) std::stable_sort(day.begin(), day.end(), earlier);
   grid.SetRows(1);
@@ -170,9 +170,9 @@ RC_GTEST_FIXTURE_PROP(BreakCheckProperty, EqualsItsStepsWrittenPlainly, ()) {
   gGeneralSettings.DisplayCheckHH = *rc::gen::arbitrary<bool>();
   const bool ordered = *rc::gen::weightedElement<bool>({{3, true}, {1, false}});
   const bool sharePlan = *rc::gen::weightedElement<bool>({{4, true}, {1, false}});
-  const Day plan = RandomDay();
+  const RandomDay plan = AnyDay();
   for (int16_t n = 1; n <= gGeneralSettings.NumberActiveSplits; ++n) {
-    FillGrid(gSplits(n).gridLog, sharePlan ? Variant(plan) : RandomDay(), ordered);
+    FillGrid(gSplits(n).gridLog, sharePlan ? Variant(plan) : AnyDay(), ordered);
   }
   BreakCheck check;
   check.CheckBreaks();

@@ -7,7 +7,7 @@
 namespace logchecker {
 namespace {
 
-std::string Picture(long value, bool bare) {
+std::string PartPicture(long value, bool bare) {
   if (bare) return value == 0 ? "" : std::to_string(value);
   return (value < 10 ? "0" : "") + std::to_string(value);
 }
@@ -33,10 +33,10 @@ std::string PlainFormat(double v, int mask) {
     const long h = static_cast<long>(std::floor(v / 3600)) % 3600;
     const bool none = mask == 100;
     const bool drop = mask > 100;
-    hundredths = none ? "" : Picture(hh, drop && v < 1);
-    seconds = none ? "" : Picture(s, drop && v < 60);
-    minutes = none ? "" : Picture(m, drop && v < 3600);
-    hours = none ? "" : Picture(h, drop);
+    hundredths = none ? "" : PartPicture(hh, drop && v < 1);
+    seconds = none ? "" : PartPicture(s, drop && v < 60);
+    minutes = none ? "" : PartPicture(m, drop && v < 3600);
+    hours = none ? "" : PartPicture(h, drop);
   }
   hours = AtLeastTwo(hours);
   minutes = AtLeastTwo(minutes);

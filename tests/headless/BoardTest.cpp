@@ -73,7 +73,7 @@ TEST(BoardTest, EachDayHasAStateAndWords) {
       {Day(kDay, 1, 5), PageState::kDiffers, "5 differ", 1},
       {Day(kDay, 1, 0, 2), PageState::kSee, "2 to mend", 1},
       {Unchecked(kDay, true), PageState::kNoLog, "no log yet", 2},
-      {Unchecked(kDay, false), PageState::kTrouble, "not checked", 2},
+      {Unchecked(kDay, false), PageState::kNotChecked, "not checked", 2},
   };
   for (const Case& each : cases) {
     Board board;

@@ -98,7 +98,7 @@ TEST(PageFrame, AStateHasAColourASignAndWords) {
       Badge(PageState::kMatch, "All match"));
   std::string before;
   for (const PageState state : {PageState::kMatch, PageState::kDiffers, PageState::kSee,
-                                PageState::kTrouble, PageState::kNoLog, PageState::kOld}) {
+                                PageState::kNotChecked, PageState::kNoLog, PageState::kOld}) {
     const std::string badge = Badge(state, "x");
     const size_t sign = badge.find("true\">");
     EXPECT_EQ(std::string::npos, before.find(badge.substr(sign))) << "a sign of its own";

@@ -10,7 +10,7 @@
 namespace logchecker {
 namespace {
 
-std::string PlainOf(const std::string& bytes) { return ReadRichText(bytes).PlainText(); }
+std::string PlainOfFile(const std::string& bytes) { return ReadRichText(bytes).PlainText(); }
 
 TEST(CodePagesTest, PairsOfBytesInRichText) {
   const struct {
@@ -44,7 +44,7 @@ TEST(CodePagesTest, PairsOfBytesInRichText) {
        "\xEF\xBF\xBDx\xEF\xBF\xBD\xEF\xBF\xBD\xEF\xBF\xBD"},
   };
   for (const auto& row : cases) {
-    EXPECT_EQ(PlainOf("{\\rtf1\\ansi" + row.body + "}"), row.text) << row.what;
+    EXPECT_EQ(PlainOfFile("{\\rtf1\\ansi" + row.body + "}"), row.text) << row.what;
   }
 }
 
@@ -87,12 +87,12 @@ TEST(CodePagesTest, TextFilesOfUnicode) {
       {"broken UTF-8 with its mark", "\xEF\xBB\xBF\xE6\x97x\xFF", "\xEF\xBF\xBDx\xEF\xBF\xBD"},
       {"UTF-8 without its end is none", "\xC3\xA9\xC3", "\xC3\x83\xC2\xA9\xC3\x83"},
   };
-  for (const auto& row : cases) EXPECT_EQ(PlainOf(row.bytes), row.text) << row.what;
+  for (const auto& row : cases) EXPECT_EQ(PlainOfFile(row.bytes), row.text) << row.what;
 }
 
 TEST(CodePagesTest, AMarkBeforeRichTextIsNoText) {
   EXPECT_TRUE(IsRichText("\xEF\xBB\xBF{\\rtf1 x}"));
-  EXPECT_EQ(PlainOf("\xEF\xBB\xBF{\\rtf1 a{\\b b}}"), "ab");
+  EXPECT_EQ(PlainOfFile("\xEF\xBB\xBF{\\rtf1 a{\\b b}}"), "ab");
   EXPECT_EQ(ReadWholeText("\xEF\xBB\xBF{\\rtf1 a{\\b b}}"), "ab");
   EXPECT_FALSE(IsRichText("\xEF\xBB{\\rtf1 x}"));
 }

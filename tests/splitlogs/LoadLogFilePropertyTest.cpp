@@ -11,12 +11,11 @@
 #include "splitlogs/AdvertLog_FN.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;
 
 struct PlainRow {
   std::array<std::string, kLogColumns> texts;

@@ -7,14 +7,13 @@
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46402;
-
-std::string Line(const std::string& time, int32_t cart, const std::string& chain = "NTH") {
+std::string LineAt(const std::string& time, int32_t cart, const std::string& chain = "NTH") {
   std::string number = std::to_string(cart);
   number.insert(0, 8 - number.size(), '0');
   std::string code = chain;
@@ -60,7 +59,7 @@ class LoadLogFileTest : public StationTest {
 
 TEST_F(LoadLogFileTest, EachBreakIsABlockWithItsTotalAndAGap) {
   const LogGrid& grid =
-      Load(Line("06:00", 1) + Line("06:01", 2) + "\r\n" + Line("07:30", 1) + "  \r\n");
+      Load(LineAt("06:00", 1) + LineAt("06:01", 2) + "\r\n" + LineAt("07:30", 1) + "  \r\n");
   EXPECT_EQ(8, grid.Rows());
   EXPECT_EQ("06:00|ADVERT 1||1|  :30|1|white", Row(grid, 1));
   EXPECT_EQ("|ADVERT 2||2| 1:00|34|white", Row(grid, 2));
@@ -73,14 +72,14 @@ TEST_F(LoadLogFileTest, EachBreakIsABlockWithItsTotalAndAGap) {
 TEST_F(LoadLogFileTest, HundredthsShowAsTheSettingsSay) {
   gGeneralSettings.DisplayAdvertHH = true;
   gGeneralSettings.DisplayBreakHH = false;
-  const LogGrid& grid = Load(Line("06:00", 1) + "\n");
+  const LogGrid& grid = Load(LineAt("06:00", 1) + "\n");
   EXPECT_EQ("  :30.25", grid.Text(1, kLengthColumn));
   EXPECT_EQ("  :30", grid.Text(2, kLengthColumn));
 }
 
 TEST_F(LoadLogFileTest, ACartWithoutAudioIsRedAndAddsNothing) {
-  const LogGrid& grid = Load(Line("06:00", 1) + Line("06:01", 9) + Line("06:02", 0) +
-                             Line("06:03", 21) + "\n" + Line("07:00", 9) + "\n");
+  const LogGrid& grid = Load(LineAt("06:00", 1) + LineAt("06:01", 9) + LineAt("06:02", 0) +
+                             LineAt("06:03", 21) + "\n" + LineAt("07:00", 9) + "\n");
   EXPECT_EQ("|ADVERT 9||9|--:--|34|red", Row(grid, 2));
   EXPECT_EQ("|ADVERT 0||0|--:--|67|red", Row(grid, 3));
   EXPECT_EQ("|ADVERT 21||21|--:--|100|red", Row(grid, 4));
@@ -90,7 +89,7 @@ TEST_F(LoadLogFileTest, ACartWithoutAudioIsRedAndAddsNothing) {
 
 TEST_F(LoadLogFileTest, ABlankCartFieldIsACartWithoutAudio) {
   const LogGrid& grid =
-      Load(Line("06:00", 1) + "06:01:00|NTH           NO CART\r\n" + Line("06:02", 2) + "\n");
+      Load(LineAt("06:00", 1) + "06:01:00|NTH           NO CART\r\n" + LineAt("06:02", 2) + "\n");
   EXPECT_EQ("|NO CART||0|--:--|34|red", Row(grid, 2));
   EXPECT_EQ(" 1:30.00", grid.Text(4, kLengthColumn));
   EXPECT_TRUE(ui.messages.empty());
@@ -98,7 +97,7 @@ TEST_F(LoadLogFileTest, ABlankCartFieldIsACartWithoutAudio) {
 
 TEST_F(LoadLogFileTest, AStoreThatCannotBeReadIsCartsWithoutAudio) {
   os.script.FailNamed("Files.GetRecord", 0, kDeviceIoError);
-  const LogGrid& grid = Load(Line("06:00", 1) + Line("06:01", 2) + "\n" + Line("07:00", 1));
+  const LogGrid& grid = Load(LineAt("06:00", 1) + LineAt("06:01", 2) + "\n" + LineAt("07:00", 1));
   EXPECT_EQ(6, grid.Rows());
   EXPECT_EQ("|ADVERT 2||2|--:--|34|red", Row(grid, 2));
   EXPECT_EQ("07:00|ADVERT 1||1|--:--|68|red", Row(grid, 5));
@@ -106,14 +105,15 @@ TEST_F(LoadLogFileTest, AStoreThatCannotBeReadIsCartsWithoutAudio) {
 }
 
 TEST_F(LoadLogFileTest, BlankLinesBeforeAndBetweenLeaveNoTrace) {
-  const LogGrid& grid = Load("\n  \n\r\n" + Line("06:00", 1) + "\n\n \n" + Line("07:00", 1) + "\n");
+  const LogGrid& grid =
+      Load("\n  \n\r\n" + LineAt("06:00", 1) + "\n\n \n" + LineAt("07:00", 1) + "\n");
   EXPECT_EQ("06:00", grid.Text(1, kTimeColumn));
   EXPECT_EQ("07:00", grid.Text(4, kTimeColumn));
   EXPECT_EQ(7, grid.Rows());
 }
 
 TEST_F(LoadLogFileTest, WithoutAFinalBlankLineTheLastBreakHasNoTotal) {
-  const LogGrid& grid = Load(Line("06:00", 1) + "\n" + Line("07:00", 1) + Line("07:01", 2));
+  const LogGrid& grid = Load(LineAt("06:00", 1) + "\n" + LineAt("07:00", 1) + LineAt("07:01", 2));
   EXPECT_EQ(6, grid.Rows());
   EXPECT_EQ("|ADVERT 2||2| 1:00|68|white", Row(grid, 5));
   int32_t last = 0;
@@ -128,8 +128,8 @@ TEST_F(LoadLogFileTest, AnUnendedLineLosesItsLastCharacter) {
 }
 
 TEST_F(LoadLogFileTest, OnlyLinesOfTheSplitsOwnChainCount) {
-  const std::string log = Line("06:00", 1, "sth") + Line("06:01", 2, "NTH") + Line("06:02", 1, "") +
-                          "\n" + Line("07:00", 1, "STH") + "\n";
+  const std::string log = LineAt("06:00", 1, "sth") + LineAt("06:01", 2, "NTH") +
+                          LineAt("06:02", 1, "") + "\n" + LineAt("07:00", 1, "STH") + "\n";
   struct Case {
     const char* code;
     int32_t rows;
@@ -145,7 +145,7 @@ TEST_F(LoadLogFileTest, OnlyLinesOfTheSplitsOwnChainCount) {
 }
 
 TEST_F(LoadLogFileTest, ATimeOutsideTheDayShowsAsDashes) {
-  const LogGrid& grid = Load(Line("24:00", 1) + "\n" + Line("24:30", 1) + "\n");
+  const LogGrid& grid = Load(LineAt("24:00", 1) + "\n" + LineAt("24:30", 1) + "\n");
   EXPECT_EQ("24:00", grid.Text(1, kTimeColumn));
   EXPECT_EQ("--:--", grid.Text(4, kTimeColumn));
 }
@@ -156,7 +156,7 @@ TEST_F(LoadLogFileTest, ALengthThatIsNoFiniteNumberShowsAsDashes) {
     CartRecord record = RecordOfLength(30);
     record.Length = length;
     PutCart(3, record);
-    const LogGrid& grid = Load(Line("06:00", 3) + "\n");
+    const LogGrid& grid = Load(LineAt("06:00", 3) + "\n");
     EXPECT_EQ("--:--", grid.Text(1, kLengthColumn));
     EXPECT_EQ("--:--", grid.Text(2, kLengthColumn));
   }
@@ -165,8 +165,8 @@ TEST_F(LoadLogFileTest, ALengthThatIsNoFiniteNumberShowsAsDashes) {
 TEST_F(LoadLogFileTest, TotalsAreRoundedToSinglePrecisionAtEachAddition) {
   PutCart(3, 65536.0F);
   PutCart(4, 0.003F);
-  std::string log = Line("06:00", 3);
-  for (int i = 0; i < 10; ++i) log += Line("06:00", 4);
+  std::string log = LineAt("06:00", 3);
+  for (int i = 0; i < 10; ++i) log += LineAt("06:00", 4);
   // In single precision 65536 and 0.003 is 65536 however often it is added.
   EXPECT_EQ("18:12:16.00", Load(log + "\n").Text(12, kLengthColumn));
 }
@@ -179,7 +179,7 @@ TEST_F(LoadLogFileTest, WithoutALogTheGridIsItsHeader) {
 }
 
 TEST_F(LoadLogFileTest, AnOlderLogIsShownAgainUnderADateWithoutOne) {
-  Load(Line("06:00", 1) + "\n");
+  Load(LineAt("06:00", 1) + "\n");
   SettingsOf(1).LogDate = kDay + 1;
   gSplits(1).LoadLogFile();
   EXPECT_EQ("06:00", gSplits(1).gridLog.Text(1, kTimeColumn));
@@ -191,14 +191,14 @@ TEST_F(LoadLogFileTest, AnOlderLogIsShownAgainUnderADateWithoutOne) {
 TEST_F(LoadLogFileTest, ALogThatCannotBeOpenedStopsTheProgramAndIsNamed) {
   os.script.FailNamed("Files.OpenForInput", 1, kPermissionDenied);
   std::string text;
-  EXPECT_EQ(kBadFileNumber, LoadStops(Line("06:00", 1), &text));
+  EXPECT_EQ(kBadFileNumber, LoadStops(LineAt("06:00", 1), &text));
   EXPECT_NE(std::string::npos, text.find("split 1 \"North\""));
   EXPECT_NE(std::string::npos, text.find(ShownPath(GetLogSourcePath(1, kDay, false))));
 }
 
 TEST_F(LoadLogFileTest, APartOfALogThatCannotBeReadStopsTheProgram) {
   std::string log;
-  for (int i = 0; i < 100; ++i) log += Line("06:00", 1) + "\n";
+  for (int i = 0; i < 100; ++i) log += LineAt("06:00", 1) + "\n";
   for (const char* call : {"Files.EndOfFile", "Files.Peek", "Files.Position", "Files.Seek"}) {
     os.script.Clear();
     os.script.FailNamed(call, std::string(call) == "Files.Seek" ? 1 : 50, kDeviceIoError);
@@ -209,7 +209,7 @@ TEST_F(LoadLogFileTest, APartOfALogThatCannotBeReadStopsTheProgram) {
 // `adverts` rows of one break, then what comes.
 std::string BreakOf(int adverts, int32_t cart = 9) {
   std::string log;
-  for (int i = 0; i < adverts; ++i) log += Line("06:00", cart);
+  for (int i = 0; i < adverts; ++i) log += LineAt("06:00", cart);
   return log;
 }
 
@@ -221,7 +221,7 @@ TEST_F(LoadLogFileTest, ALineAtARowThatEqualsTheRowCountStopsTheProgram) {
   EXPECT_EQ(kInvalidGridRow, LoadStops(BreakOf(1440), &text));
   EXPECT_NE(std::string::npos, text.find("row 1440 of 1440"));
   EXPECT_EQ(kInvalidGridRow, LoadStops(BreakOf(1439) + "\n"));
-  EXPECT_EQ(kInvalidGridRow, LoadStops(BreakOf(1439) + Line("06:00", 1, "STH")));
+  EXPECT_EQ(kInvalidGridRow, LoadStops(BreakOf(1439) + LineAt("06:00", 1, "STH")));
 }
 
 TEST_F(LoadLogFileTest, TheGridGrowsWhenARowJumpsOverTheRowCount) {
@@ -270,12 +270,12 @@ class PaintWatchingUi : public RecordingUi {
 
 TEST_F(LoadLogFileTest, TheGridPaintsBeforeThePointerGoesBack) {
   const PaintWatchingUi watching;
-  Load(Line("06:00", 1));
+  Load(LineAt("06:00", 1));
   EXPECT_EQ((std::vector<bool>{false, true}), watching.paints);
 }
 
 TEST_F(LoadLogFileTest, TheHourglassShowsDuringTheFill) {
-  Load(Line("06:00", 1));
+  Load(LineAt("06:00", 1));
   EXPECT_EQ((std::vector<MousePointer>{MousePointer::kHourglass, MousePointer::kDefault}),
             ui.pointers);
   EXPECT_EQ(0, ui.yields);

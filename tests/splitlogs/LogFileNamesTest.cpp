@@ -1,12 +1,11 @@
 // Which log file belongs to which day.
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;  // Friday, 15 January 2027
 
 class LogFileNamesTest : public StationTest {
  protected:

@@ -4,12 +4,11 @@
 #include "common/FileHelpers.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;  // 15 January 2027
 
 using Calls = std::vector<std::string>;
 

@@ -3,12 +3,12 @@
 #include "common/FileHelpers.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46402;  // 15 January 2027
 constexpr double kMorning = kDay + (9 * 3600 + 5 * 60 + 7) / 86400.0;
 
 class LogFilesTest : public StationTest {

@@ -11,11 +11,11 @@
 namespace logchecker {
 namespace {
 
-using PlainRow = std::array<std::string, kLogColumns>;
+using RowTexts = std::array<std::string, kLogColumns>;
 
 RC_GTEST_PROP(LogGridProperty, EachCellHoldsWhatWasLastPutThere, ()) {
   LogGrid grid;
-  std::vector<PlainRow> plain(1);
+  std::vector<RowTexts> plain(1);
   const int changes = *rc::gen::inRange(1, 60);
   for (int i = 0; i < changes; ++i) {
     if (plain.size() == 1 || *rc::gen::inRange(0, 6) == 0) {

@@ -6,12 +6,12 @@
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
 #include "tests/splitlogs/CountingObserver.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46402;
 constexpr char kFirst[] = "06:00:00|NTH  00000001 FIRST\n\n";
 constexpr char kSecond[] = "07:00:00|NTH  00000002 SECOND\n\n";
 

@@ -7,12 +7,12 @@
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46402;
 constexpr char kLog[] =
     "06:00:00|NTH  00000001 A\n06:00:30|NTH  00000001 B\n\n07:30:00|NTH  00000001 C\n\n";
 

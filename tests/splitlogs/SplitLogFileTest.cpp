@@ -3,12 +3,11 @@
 #include "common/FileHelpers.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/StationTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;  // 15 January 2027
 
 // As the program starts, before any fixture sets it back.
 const bool kDestinationFromTheStart = gUseDestinationDirectory;

@@ -11,13 +11,13 @@
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46083;  // 2 March 2026
+constexpr int32_t kMarchDay = 46083;  // 2 March 2026
 
 class LogNamesTest : public StationTest {
  protected:
   LogNamesTest() {
     OpenStore(20);
-    WriteLog(1, kDay, "06:00:00|NTH  00000001 ADVERT\r\n\r\n");
+    WriteLog(1, kMarchDay, "06:00:00|NTH  00000001 ADVERT\r\n\r\n");
   }
   void Load() { gSplits(1).LoadLogFile(); }
 };
@@ -46,7 +46,7 @@ TEST_F(LogNamesTest, AFolderThatIsMeantExactlyIsNotTold) {
 
 TEST_F(LogNamesTest, ALogWithoutAnExtensionIsFoundWithoutTheFullStop) {
   SettingsOf(1).Extension = "";
-  EXPECT_EQ("260302.", GetLogFileName(1, kDay, false));
+  EXPECT_EQ("260302.", GetLogFileName(1, kMarchDay, false));
   Load();
   EXPECT_EQ(0, SettingsOf(1).LogFileNumber);
   std::filesystem::rename(Path("logs1/260302.LOG"), Path("logs1/260302"));

@@ -6,12 +6,11 @@
 #include "splitlogs/SplitSettings.h"
 #include "splitlogs/ui/LogGridView.h"
 #include "splitlogs/ui/frmSplit.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;
 
 // Two splits of four breaks, each of three rows: the first rows are 1, 4, 7 and 10.
 class GridMouseTest : public WindowTest {

@@ -9,12 +9,12 @@
 #include "platform/Platform.h"
 #include "splitlogs/SplitSettings.h"
 #include "splitlogs/ui/frmLogFileSettings.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
 namespace {
 
-constexpr int32_t kDay = 46402;  // 15 January 2027
 constexpr char kFile[] = "; ours\r\n[General]\r\nSplitName2=Old\r\nOther=1\r\n";
 
 class LogFileSettingsTest : public WindowTest {

@@ -9,12 +9,11 @@
 #include "splitlogs/SplitSettings.h"
 #include "splitlogs/ui/LogGridView.h"
 #include "splitlogs/ui/frmSplit.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;
 
 class SplitTellsTest : public WindowTest {
  protected:

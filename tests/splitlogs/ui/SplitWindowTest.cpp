@@ -11,12 +11,11 @@
 #include "splitlogs/SplitSettings.h"
 #include "splitlogs/ui/LogGridView.h"
 #include "splitlogs/ui/frmSplit.h"
+#include "tests/splitlogs/LogDay.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
 namespace {
-
-constexpr int32_t kDay = 46402;
 
 std::string Line(const char* time, int cart, const char* description = "AN ADVERT") {
   char line[128];
