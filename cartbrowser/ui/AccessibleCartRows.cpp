@@ -103,7 +103,11 @@ void UseAccessibleCartRows() {
   Q_UNUSED(used);
 }
 
-void TellCartRow(QWidget* row) {
+void TellCartRow(QWidget* row, QWidget* before) {
+  if (before != nullptr && before != row) {
+    QAccessibleEvent left(before, QAccessible::SelectionRemove);
+    QAccessible::updateAccessibility(&left);
+  }
   if (row == nullptr) return;
   QAccessibleEvent selected(row, QAccessible::Selection);
   QAccessible::updateAccessibility(&selected);

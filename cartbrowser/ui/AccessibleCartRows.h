@@ -10,8 +10,8 @@ namespace logchecker {
 void UseAccessibleCartRows();
 
 // The row is where the user is now, although the keys go to the box with the number: as with any
-// box that has a list to pick from. Null tells nothing.
-void TellCartRow(QWidget* row);
+// box that has a list to pick from. `before` is the row where the user was; either may be null.
+void TellCartRow(QWidget* row, QWidget* before);
 void TellFocus(QWidget& control);
 
 }  // namespace logchecker

@@ -130,7 +130,8 @@ void CartRowsPanel::TellCurrentRow() {
   if (!marked_ || !isVisible() || !isActiveWindow()) return;
   marked_ = false;
   told_ = true;
-  TellCartRow(RowAt(browser_.CurrentRow() - 1));
+  QWidget* row = RowAt(browser_.CurrentRow() - 1);
+  TellCartRow(row, std::exchange(toldRow_, row));
 }
 
 }  // namespace logchecker

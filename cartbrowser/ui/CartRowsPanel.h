@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -66,6 +67,7 @@ class CartRowsPanel : public QFrame {
   std::vector<RowWidgets> rows_;
   bool marked_ = false;  // a row, since one was last told
   bool told_ = false;
+  QPointer<QWidget> toldRow_;  // the last one that was
   int turned_ = 0;  // by the wheel, what is not a whole row yet
 };
 

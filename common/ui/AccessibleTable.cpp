@@ -2,6 +2,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QHash>
 #include <QHeaderView>
 #include <QTableView>
@@ -188,6 +189,13 @@ void Tell(QAccessibleInterface* cell, QAccessible::Event what) {
 void UseAccessibleTables() {
   static const bool used = [] {
     QAccessible::installFactory(MakeTable);
+    // Who comes into a table is on its current row. Behind the word that the table has the focus.
+    QObject::connect(qApp, &QApplication::focusChanged, qApp, [](QWidget*, QWidget* now) {
+      auto* view = qobject_cast<QAbstractItemView*>(now);
+      if (dynamic_cast<RowChooser*>(view) == nullptr) return;
+      QMetaObject::invokeMethod(
+          view, [view] { TellCurrentChanged(*view, view->currentIndex()); }, Qt::QueuedConnection);
+    });
     return true;
   }();
   Q_UNUSED(used);
