@@ -6,6 +6,7 @@ import pathlib
 import shutil
 import subprocess
 import sys
+import time
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "desktop"))
 import screen  # noqa: E402
@@ -16,7 +17,7 @@ NAMED = ("push button", "check box", "text", "scroll bar", "spin button", "table
 STATES = ("active", "checked", "editable", "enabled", "focusable", "focused", "modal", "selectable",
           "selected", "showing", "visible")
 PATIENCE = 60000  # milliseconds that a program may take for an answer on a busy machine
-BUSY = 1500       # the same for one that may open a window first and answer when that has gone
+BUSY = 300       # the same for one that may open a window first and answer when that has gone
 
 
 class Ears(screen.Screen):
@@ -28,7 +29,6 @@ class Ears(screen.Screen):
         super().__init__()
         # The screen has no graphics card, and its driver would leave memory behind.
         self.environment["QT_XCB_GL_INTEGRATION"] = "none"
-        self.environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         # It has no settings to keep, nor another bus to ask.
         self.environment["GSETTINGS_BACKEND"] = "memory"
         self.environment.pop("DBUS_SESSION_BUS_ADDRESS", None)
@@ -47,9 +47,14 @@ class Ears(screen.Screen):
         import gi
         gi.require_version("Atspi", "2.0")
         import pyatspi
-        from gi.repository import Atspi, GLib
+        from gi.repository import Atspi, Gio, GLib
         self.pyatspi, self.bus, self.glib = pyatspi, Atspi, GLib
         Atspi.set_timeout(PATIENCE, PATIENCE)
+        # As a screen reader does when it comes up: programs put their windows on the bus for it.
+        Gio.bus_get_sync(Gio.BusType.SESSION).call_sync(
+            "org.a11y.Bus", "/org/a11y/bus", "org.freedesktop.DBus.Properties", "Set",
+            GLib.Variant("(ssv)", ("org.a11y.Status", "IsEnabled", GLib.Variant("b", True))),
+            None, Gio.DBusCallFlags.NONE, PATIENCE)
         self.heard = []
         self.listener = self.hear
 
@@ -60,8 +65,18 @@ class Ears(screen.Screen):
         finally:
             super().__exit__(*_)
 
+    def until(self, condition, what, seconds=30):
+        def asked():
+            try:
+                result = condition()
+            except (self.glib.Error, LookupError, NotImplementedError):
+                result = None  # What was asked has just gone, or is not there yet.
+            if not result:
+                time.sleep(0.02)
+            return result
+        return super().until(asked if hasattr(self, "glib") else condition, what, seconds)
+
     def start(self, *command, config=None):
-        # A name is on the bus for as long as its program runs, so the programs stand in order.
         process = super().start(*command, config=config)
         self.listen()
         return process
@@ -81,8 +96,10 @@ class Ears(screen.Screen):
         return self.until(found, f"program {name} on the bus")
 
     def children(self, parent):
-        return [child for child in (parent[i] for i in range(parent.childCount))
-                if child is not None]
+        return self.first(parent, parent.childCount)
+
+    def first(self, parent, count):
+        return [child for child in (parent[i] for i in range(count)) if child is not None]
 
     def all(self, parent, showing=True):
         """What is in a part, in order; without what does not show."""
@@ -181,7 +198,7 @@ class Ears(screen.Screen):
     # Tables.
 
     def headings(self, table):
-        return [part.name for part in self.children(table)[:table.queryTable().nColumns]]
+        return [part.name for part in self.first(table, table.queryTable().nColumns)]
 
     def row(self, table, row):
         cells = table.queryTable()
