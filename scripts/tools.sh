@@ -43,7 +43,8 @@ plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3
 build_packages=("${plain_packages[@]}" qt6-base-dev qt6-svg-dev qt6-multimedia-dev libcups2-dev)
 test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev libjpeg-dev
   libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
-  fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils)
+  fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils
+  at-spi2-core dbus python3-pyatspi)
 windows_packages=("${plain_packages[@]}" g++-mingw-w64-x86-64-posix wine64 googletest python3)
 windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream

@@ -145,6 +145,15 @@ class Ears(screen.Screen):
         self.until(lambda: all(child.name != name or "showing" not in self.states(child)
                                for child in self.children(application)), f"end of {name!r}")
 
+    def gone_from(self, part):
+        """Waits until a part, and the window that it was in, is no longer there to be heard."""
+        def gone():
+            try:
+                return part.childCount < 0 or "showing" not in self.states(part)
+            except (self.glib.Error, LookupError):
+                return True
+        self.until(gone, f"end of what said {part}")
+
     def nothing_is_nameless(self, window):
         for part in self.all(window):
             role = part.getRoleName()
