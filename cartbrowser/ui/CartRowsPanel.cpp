@@ -97,7 +97,8 @@ void CartRowsPanel::ShowButtonColour(int16_t row) {
   rows_[static_cast<size_t>(row) - 1].button->SetColour(colour);
   if (colour != kHighlightColour || std::exchange(marked_, true)) return;
   // Behind what comes with the move, and once for moves that come together.
-  QMetaObject::invokeMethod(this, [this] { TellCurrentRow(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { TellCurrentRow(); }, Qt::QueuedConnection);
 }
 
 QWidget* CartRowsPanel::RowAt(int index) const {

@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QImage>
 #include <QLabel>
 #include <QPointer>
@@ -142,6 +143,15 @@ TEST_F(AboutTest, AboutStaysUntilOkIsPressedAndIsNotModal) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(about.isNull());
   }
+}
+
+TEST_F(AboutTest, AboutIsADialogForEars) {
+  ASSERT_TRUE(Start());
+  Entry("mnuAbout")->trigger();
+  auto* about = main->findChild<frmSplash*>();
+  ASSERT_NE(about, nullptr);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(about)->role(), QAccessible::Dialog);
+  Control<QPushButton>(about, "cmdOK")->click();
 }
 
 }  // namespace
