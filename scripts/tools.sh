@@ -25,7 +25,7 @@ need() {
   echo "Installing: ${missing[*]}"
   "${as_root[@]}" apt-get update -q >/dev/null || true
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}" >/dev/null
 }
 
 # Systems without Debian packages: the tools by name, and the libraries in words.
