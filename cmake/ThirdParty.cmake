@@ -22,7 +22,7 @@ else()
 endif()
 
 if(LOGCHECKER_DESKTOP)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport)
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
   if(NOT WIN32)
     find_package(Cups REQUIRED)
   endif()
