@@ -7,7 +7,7 @@
 #include <QSpinBox>
 
 #include "printing/ui/PrinterChoice.h"
-#include "tests/support/ui/PrintQueue.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {

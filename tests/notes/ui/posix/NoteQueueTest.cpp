@@ -5,7 +5,7 @@
 #include <QSpinBox>
 
 #include "notes/ui/frmPrintPreview.h"
-#include "tests/support/ui/PrintQueue.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {

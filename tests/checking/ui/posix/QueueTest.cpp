@@ -12,8 +12,8 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
-#include "tests/support/ui/FullDisk.h"
-#include "tests/support/ui/PrintQueue.h"
+#include "tests/support/ui/posix/FullDisk.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {
@@ -94,14 +94,14 @@ TEST_F(QueueTest, AQueueThatIsGoneByThenIsSaid) {
 // In points.
 QSizeF SizeOfPage(const QString& pdf) {
   const auto match =
-      QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)").match(OutputOf("pdfinfo", {pdf}));
+      QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)").match(OutputOfProgram("pdfinfo", {pdf}));
   return {match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
 
 // The longest straight black line down the first page, in points.
 int RuleLength(const QString& pdf) {
   const QTemporaryDir folder;
-  OutputOf("pdftoppm",
+  OutputOfProgram("pdftoppm",
            {"-r", "72", "-f", "1", "-singlefile", "-gray", "-png", pdf, folder.filePath("page")});
   const QImage page(folder.filePath("page.png"));
   int longest = 0;
