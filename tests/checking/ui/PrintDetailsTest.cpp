@@ -3,7 +3,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QPrintDialog>
+#include <QAbstractPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -24,7 +24,7 @@ class PrintDetailsTest : public ResultsTest {
 
   // The real dialog, answered with a PDF file, so many copies, and all rows or the selection.
   void AnswerDialog(QDialog* dialog, int copies, std::optional<bool> selection) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     ASSERT_NE(printer, nullptr);
     EXPECT_EQ(printer->windowTitle(), "Print Check Split Times");
     presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
@@ -38,7 +38,7 @@ class PrintDetailsTest : public ResultsTest {
   // Past the dialog's own test of the folder.
   void PrintPastTheDialogsTests(int copies) {
     DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
+      auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
       printer->printer()->setOutputFileName(pdf);
       printer->printer()->setCopyCount(copies);
       printer->done(QDialog::Accepted);

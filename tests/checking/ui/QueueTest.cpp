@@ -2,7 +2,7 @@
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
-#include <QPrintDialog>
+#include <QAbstractPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -28,7 +28,7 @@ class QueueTest : public ResultsTest {
       PickQueue(dialog, PrintQueue::kName);
       Control<QSpinBox>(dialog, "copies")->setValue(copies);
       if (pick) pick(dialog);
-      qobject_cast<QPrintDialog*>(dialog)->accept();
+      qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
     });
     if (properties) script.Then(properties);
     window->PrintDetails();

@@ -1,6 +1,6 @@
 // A note on a real queue of a real print scheduler.
 #include <QCheckBox>
-#include <QPrintDialog>
+#include <QAbstractPrintDialog>
 #include <QPushButton>
 #include <QSpinBox>
 
@@ -26,7 +26,7 @@ class NoteQueueTest : public WindowTest {
       Control<QSpinBox>(dialog, "copies")->setValue(2);
       Control<QCheckBox>(dialog, "collate")->setChecked(collated);
       Control<QRadioButton>(dialog, "noDuplex")->click();
-      qobject_cast<QPrintDialog*>(dialog)->accept();
+      qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
     });
     Control<QPushButton>(&preview, "cmdPrint")->click();
     EXPECT_TRUE(ui.messages.empty()) << ui.messages[0].text;

@@ -5,7 +5,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrintDialog>
+#include <QAbstractPrintDialog>
 #include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
@@ -45,7 +45,7 @@ class PrintPreviewTest : public WindowTest {
     const QString pdf = QString::fromStdString(ToHostPath(folder().Path()) + "/out.pdf");
     QFile::remove(pdf);
     DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
+      auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
       ASSERT_NE(printer, nullptr);
       presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
       auto* printers = Control<QComboBox>(printer, "printers");
@@ -208,7 +208,7 @@ TEST_F(PrintPreviewTest, AFullDiskIsSaid) {
   Open(Path("note.rtf"));
   folder().WriteFile("out.pdf", "old");
   DialogScript script([&](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     printer->printer()->setOutputFileName(HostName("out.pdf"));
     printer->done(QDialog::Accepted);
   });
@@ -225,7 +225,7 @@ TEST_F(PrintPreviewTest, AFullDiskIsSaid) {
 TEST_F(PrintPreviewTest, AFailureOfThePrinterIsSaid) {
   Open(Path("note.rtf"));
   DialogScript script([&](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     printer->printer()->setOutputFormat(QPrinter::PdfFormat);
     printer->printer()->setOutputFileName("/nowhere/at/all.pdf");
     printer->done(QDialog::Accepted);
@@ -371,7 +371,7 @@ TEST_F(PrintPreviewTest, ANoteTooLargeToBeSavedSaysThat) {
 TEST_F(PrintPreviewTest, PagesAreNotOfferedToPickFrom) {
   Open(Path("note.rtf"));
   DialogScript script([](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     ASSERT_NE(printer, nullptr);
     EXPECT_FALSE(printer->testOption(QAbstractPrintDialog::PrintPageRange));
     EXPECT_FALSE(printer->testOption(QAbstractPrintDialog::PrintCurrentPage));
