@@ -22,6 +22,10 @@ else()
 endif()
 
 if(LOGCHECKER_DESKTOP)
+  if(WIN32 AND NOT LOGCHECKER_WINDOWS_QT)
+    message(FATAL_ERROR "Programs with windows need Qt for Windows: give LOGCHECKER_WINDOWS_QT the folder that "
+      "scripts/windows-qt.sh prints, or build logcheck alone with -DLOGCHECKER_DESKTOP=OFF.")
+  endif()
   find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
   if(NOT WIN32)
     find_package(Cups REQUIRED)
