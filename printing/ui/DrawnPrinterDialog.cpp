@@ -84,11 +84,6 @@ void DrawnPrinterDialog::TakePrinter() {
 
 void DrawnPrinterDialog::Offer(const PrinterQuestion& question) {
   const bool report = question.kind == JobKind::kReport;
-  setOption(PrintToFile);
-  setOption(PrintSelection);
-  setOption(PrintCurrentPage, false);
-  setOption(PrintPageRange, report);
-  setOption(PrintCollateCopies, !report);
   setPrintRange(question.presetSelection ? Selection : AllPages);
   (question.presetSelection ? ui_->printSelection : ui_->printAll)->setChecked(true);
   for (QWidget* control : {static_cast<QWidget*>(ui_->printRange), static_cast<QWidget*>(ui_->from),

@@ -1,6 +1,6 @@
 // That every text of the results can be read, on the screen and on paper.
 #include <QHeaderView>
-#include <QAbstractPrintDialog>
+#include <QPrintDialog>
 #include <QPushButton>
 #include <QScrollBar>
 

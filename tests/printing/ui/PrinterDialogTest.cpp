@@ -1,13 +1,13 @@
 // The printer's dialog: what it opens with and what it offers.
 #include <QCheckBox>
 #include <QComboBox>
-#include <QAbstractPrintDialog>
+#include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
 
 #include "printing/ui/PrinterChoice.h"
-#include "tests/support/ui/PrintQueue.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {
@@ -124,11 +124,11 @@ TEST_F(PrinterDialogTest, TheNextDialogHasTheLastPrinterAndItsPaper) {
   DialogScript script([](QDialog* dialog) {
     PickQueue(dialog, PrintQueue::kName);
     Control<QPushButton>(dialog, "properties")->click();
-    qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
+    qobject_cast<QPrintDialog*>(dialog)->accept();
   });
   script.Then(PickA4Across).Then([](QDialog* dialog) {
     EXPECT_EQ(Control<QComboBox>(dialog, "printers")->currentText(), PrintQueue::kName);
-    qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
+    qobject_cast<QPrintDialog*>(dialog)->accept();
   });
   ExpectA4Across(*AskForPrinter(nullptr, {"T", false, JobKind::kNote}));
   ExpectA4Across(*AskForPrinter(nullptr, {"T", false, JobKind::kReport}));
@@ -140,7 +140,7 @@ TEST_F(PrinterDialogTest, TheLastPaperIsSeenInThePropertiesAndCanBeChangedThere)
                              QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, {})};
   DialogScript script([](QDialog* dialog) {
     Control<QPushButton>(dialog, "properties")->click();
-    qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
+    qobject_cast<QPrintDialog*>(dialog)->accept();
   });
   script.Then([](QDialog* properties) {
     auto* sizes = Control<QComboBox>(properties, "pageSizeCombo");
@@ -184,7 +184,7 @@ TEST_F(PrinterDialogTest, AFileIsALastPrinterToo) {
     const auto* printers = Control<QComboBox>(dialog, "printers");
     EXPECT_EQ(printers->currentIndex(), printers->count() - 1);
     EXPECT_EQ(Control<QLineEdit>(dialog, "filename")->text(), file);
-    qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
+    qobject_cast<QPrintDialog*>(dialog)->accept();
   });
   ExpectA4Across(*AskForPrinter(nullptr, {"T", false, JobKind::kReport}));
   const auto second = AskForPrinter(nullptr, {"T", false, JobKind::kReport});
@@ -196,7 +196,7 @@ TEST_F(PrinterDialogTest, APrinterThatIsGoneIsNotAskedFor) {
   gLastPrinter = LastPrinter{"gone", "", QPageLayout()};
   const PrintQueue queue;
   const auto choice = Ask({"T", false, JobKind::kReport},
-                          [](QDialog* dialog) { qobject_cast<QAbstractPrintDialog*>(dialog)->accept(); });
+                          [](QDialog* dialog) { qobject_cast<QPrintDialog*>(dialog)->accept(); });
   EXPECT_EQ(choice->printer->printerName(), PrintQueue::kName);
 }
 

@@ -3,13 +3,13 @@
 
 #include <QComboBox>
 #include <QLineEdit>
-#include <QAbstractPrintDialog>
-#include <QProcess>
+#include <QPrintDialog>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QString>
 #include <optional>
 
+#include "tests/support/ui/HostProgram.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -18,7 +18,7 @@ namespace logchecker {
 // neither of the two what is preset stays.
 inline void AnswerWithFile(QDialog* dialog, const QString& pdf, int copies = 1,
                            std::optional<bool> selection = std::nullopt) {
-  auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
+  auto* printer = qobject_cast<QPrintDialog*>(dialog);
   ASSERT_NE(printer, nullptr);
   auto* printers = Control<QComboBox>(printer, "printers");
   printers->setCurrentIndex(printers->count() - 1);  // the PDF file
@@ -38,16 +38,8 @@ inline void PickQueue(QDialog* dialog, const char* queue) {
   printers->setCurrentIndex(index);
 }
 
-// What a program prints.
-inline QString OutputOf(const QString& program, const QStringList& arguments) {
-  QProcess process;
-  process.start(program, arguments);
-  process.waitForFinished();
-  return QString::fromUtf8(process.readAllStandardOutput());
-}
-
 inline QString TextOfFile(const QString& pdf) {
-  return OutputOf("pdftotext", {"-layout", pdf, "-"});
+  return OutputOfProgram("pdftotext", {"-layout", pdf, "-"});
 }
 
 }  // namespace logchecker
