@@ -11,6 +11,7 @@
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -49,6 +50,7 @@ int WishedHeight(const QWidget* control) { return ToTwips(control->sizeHint().he
 
 void frmCartBrowser::MakeControls() {
   setObjectName("frmCartBrowser");
+  SetGuidePage(*this, kGuideBrowser);
   setWindowTitle("Cart Browser");
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);

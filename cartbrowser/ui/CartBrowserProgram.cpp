@@ -18,6 +18,7 @@
 #include "common/ui/Buttons.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
@@ -172,6 +173,7 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   QApplication::setQuitOnLastWindowClosed(false);
   KeepBoxesToOneLine();
   HoldButtonRules();
+  HoldGuideKey();
   return Run(arguments, parts);
 }
 

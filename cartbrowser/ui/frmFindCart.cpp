@@ -8,6 +8,7 @@
 #include "cartbrowser/ui/KeyPreview.h"
 #include "common/SystemHelpers.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
@@ -28,6 +29,7 @@ frmFindCart::frmFindCart(QWidget* parent)
       FindCart(static_cast<FindCartFace&>(*this)),
       ui_(std::make_unique<Ui::frmFindCart>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSearch);
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
   FillLists();

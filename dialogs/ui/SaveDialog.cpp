@@ -7,6 +7,7 @@
 
 #include "common/Lookalikes.h"
 #include "common/UserInterface.h"
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 #include "dialogs/ui/HostFolder.h"
 #include "platform/HostPaths.h"
@@ -28,6 +29,7 @@ SaveDialog::SaveDialog(QWidget* owner, const QString& title, const std::vector<F
                        const QString& defaultExtension, const std::string& folder)
     : QFileDialog(owner, title) {
   setObjectName("CommonDialog1");
+  SetGuidePage(*this, kGuideSaveAndPrint);
   // The system's own dialogs keep neither the rule on wildcards nor that on names.
   setOption(QFileDialog::DontUseNativeDialog);
   // Its own question would take a name for markup.

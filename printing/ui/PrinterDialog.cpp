@@ -6,11 +6,14 @@
 #include <QDialogButtonBox>
 #include <QLineEdit>
 
+#include "common/ui/Guide.h"
+
 namespace logchecker {
 
 PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner)
     : QPrintDialog(printer, owner), withheld_(new QWidget(this)) {
   setWindowTitle(question.title);
+  SetGuidePage(*this, kGuideSaveAndPrint);
   withheld_->hide();
   TakeLastPrinter();
   if (auto* file = findChild<QLineEdit*>("filename")) file->installEventFilter(this);

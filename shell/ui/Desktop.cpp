@@ -9,6 +9,7 @@
 #include "common/ui/Buttons.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
@@ -57,6 +58,7 @@ int RunDesktop(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   KeepBoxesToOneLine();
   HoldButtonRules();
+  HoldGuideKey();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   frmMain main;
