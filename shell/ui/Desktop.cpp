@@ -1,6 +1,7 @@
 #include "shell/ui/Desktop.h"
 
 #include <QApplication>
+#include <algorithm>
 #include <string>
 
 #include "cartstore/Velmar_Cart_Routines.h"
@@ -24,11 +25,22 @@ namespace logchecker {
 namespace {
 
 constexpr int kEndedAtStart = 1;
+constexpr char kTry[] = "--try";
+
+Trial& TheTrial() {
+  static Trial trial;
+  return trial;
+}
+
+bool IsTrial(int argc, char** argv) {
+  return std::any_of(argv + 1, argv + argc, [](const char* word) { return word == std::string(kTry); });
+}
 
 // Before the toolkit takes its own out of them.
 std::string JoinedArguments(int argc, char** argv) {
   std::string line;
   for (int i = 1; i < argc; ++i) {
+    if (argv[i] == std::string(kTry)) continue;
     std::string argument;
     FromArgument(argv[i], &argument);
     line += (line.empty() ? "" : " ") + argument;
@@ -39,13 +51,23 @@ std::string JoinedArguments(int argc, char** argv) {
 void CloseFiles() {
   CloseAudiowall();
   CloseAllFiles();
+  TheTrial().End();
 }
 
 void Stop(const RunTimeError& error) { StopProgram(error, CloseFiles); }
 
+int Run() {
+  frmMain main;
+  bool started = false;
+  Guarded([&] { started = main.Load(); });
+  if (!started) return kEndedAtStart;
+  return main.HasEnded() ? 0 : QApplication::exec();
+}
+
 }  // namespace
 
-int RunDesktop(int argc, char** argv) {
+int RunDesktop(int argc, char** argv, const WriteMadeUpStation& write) {
+  const bool trial = IsTrial(argc, argv);
   SetCommandLine(JoinedArguments(argc, argv));
   DisplayWatch display("logchecker", CloseFiles);
   const QApplication application(argc, argv);
@@ -61,11 +83,10 @@ int RunDesktop(int argc, char** argv) {
   HoldGuideKey();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
-  frmMain main;
-  bool started = false;
-  Guarded([&] { started = main.Load(); });
-  if (!started) return kEndedAtStart;
-  return main.HasEnded() ? 0 : QApplication::exec();
+  int result = kEndedAtStart;
+  if (!trial || TheTrial().Begin(write)) result = Run();
+  CloseFiles();
+  return result;
 }
 
 }  // namespace logchecker
