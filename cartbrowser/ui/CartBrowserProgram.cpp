@@ -16,6 +16,7 @@
 #include "common/UnreadableSettings.h"
 #include "common/VersionData.h"
 #include "common/ui/Buttons.h"
+#include "common/ui/CutTextTips.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
@@ -174,6 +175,7 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   KeepBoxesToOneLine();
   HoldButtonRules();
   HoldGuideKey();
+  HoldCutTextTips();
   return Run(arguments, parts);
 }
 

@@ -61,6 +61,12 @@ void frmFindCart::FillLists() {
   ui_->cmbSearchText->lineEdit()->setAccessibleName(ui_->cmbSearchText->accessibleName());
   TakeStationTextOnly(*ui_->cmbSearchText->lineEdit());
   ui_->lviewItems->SetSearch(*this);
+  ui_->lviewItems->setAccessibleDescription(
+      "Keys: Enter goes to the cart, Ctrl+1 to Ctrl+5 sort by a column, a second time the other "
+      "way round");
+  ui_->tabFind->setAccessibleDescription("Key: Ctrl+Tab");
+  ui_->cmdFind->setAccessibleDescription("Key: Enter");
+  ui_->cmdStop->setAccessibleDescription("Key: Escape");
   const QLineEdit& box = *ui_->mskLength;
   ui_->mskLength->setMaximumWidth(box.fontMetrics().horizontalAdvance("00:00") + kLengthMargins);
 }
@@ -113,7 +119,20 @@ void frmFindCart::OnFind() {
   Find();
 }
 
+// Ctrl and a digit do what a click on that column's heading does, counted as they are seen.
+bool frmFindCart::SortByKey(const QKeyEvent& key) {
+  const int column = key.key() - Qt::Key_0;
+  const bool sorts = (key.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier &&
+                     column >= static_cast<int>(kFoundNumber) &&
+                     column <= static_cast<int>(kFoundLength);
+  if (!sorts || !view().ResultsVisible) return false;
+  ui_->lviewItems->ShowAddedRows();
+  ClickHeader(static_cast<FoundColumn>(column));
+  return true;
+}
+
 bool frmFindCart::OnKey(const QKeyEvent& key) {
+  if (SortByKey(key)) return true;
   return KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier));
 }
 

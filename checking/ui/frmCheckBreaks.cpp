@@ -63,6 +63,9 @@ void frmCheckBreaks::BuildControls() {
   lvwResults_ = new ResultsView(check_.lvwResults, inner_);
   lvwResults_->setObjectName("lvwResults");
   lvwResults_->setAccessibleName(Label1_->text());
+  lvwResults_->setAccessibleDescription(
+      "Keys: Enter lines all splits up on the row, F8 and Shift+F8 go to the next and the previous "
+      "one, Escape closes");
   lvwResults_->move(ToPixels(kMargin), ToPixels(kListTop));
   connect(lvwResults_, &ResultsView::rowChosen, this, [this] { OnRowChosen(); });
 
@@ -106,6 +109,7 @@ void frmCheckBreaks::BuildControls() {
   cmdSave_ = button("cmdSave", "save", "Save", "Export to a CSV File");
   cmdPrint_ = button("cmdPrint", "print", "Print", "Print the Report");
   connect(cmdSave_, &QToolButton::clicked, this, [this] { OnSave(); });
+  cmdPrint_->setAccessibleDescription(cmdPrint_->toolTip() + ". Key: Ctrl+P");
   connect(cmdPrint_, &QToolButton::clicked, this, [this] { PrintDetails(); });
 }
 

@@ -21,6 +21,7 @@ inline constexpr char kGuideSplit[] = "change-a-split";
 inline constexpr char kGuideBrowser[] = "pick-a-cart";
 inline constexpr char kGuideSearch[] = "search-the-carts";
 inline constexpr char kGuideNotes[] = "read-a-carts-notes";
+inline constexpr char kGuideTrouble[] = "when-something-is-wrong";
 inline constexpr char kGuideKeys[] = "all-keys";
 
 // The page that tells of a window, for all that is in it and for dialogs that it opens.

@@ -46,6 +46,8 @@ frmSelectHour::frmSelectHour(QWidget* parent)
   const BusyPointer busy;
   ui_->setupUi(this);
   SetGuidePage(*this, kGuideLoadDay);
+  ui_->DateFrame->setAccessibleDescription(
+      "Keys for the day: Left and Right by a day, Up and Down by a week");
   SetColours(*ui_->AMSH, kMorningColour, kBlack);
   SetColours(*ui_->PMSH, kAfternoonColour, kBlack);
   SetColours(*ui_->lblYear, kButtonFace, kButtonText);

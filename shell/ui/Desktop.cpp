@@ -8,6 +8,7 @@
 #include "common/ErrorState.h"
 #include "common/VersionData.h"
 #include "common/ui/Buttons.h"
+#include "common/ui/CutTextTips.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
@@ -81,6 +82,7 @@ int RunDesktop(int argc, char** argv, const WriteMadeUpStation& write) {
   KeepBoxesToOneLine();
   HoldButtonRules();
   HoldGuideKey();
+  HoldCutTextTips();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   int result = kEndedAtStart;
