@@ -169,6 +169,7 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   display.DisplayIsThere();
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);
+  QApplication::setDesktopFileName("org.logchecker.CartBrowser");
   QApplication::setWindowIcon(IconNamed("program"));
   // The browser is only hidden, and a dialog before it does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
