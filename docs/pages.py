@@ -33,7 +33,6 @@ table { border-collapse: collapse; display: block; overflow-x: auto }
 th, td { border: 1px solid var(--line); padding: .3rem .6rem; text-align: left; vertical-align: top }
 code { background: var(--back); padding: 0 .2rem }
 pre { background: var(--back); padding: .6rem; overflow-x: auto }
-kbd { border: 1px solid var(--line); border-radius: .2rem; padding: 0 .3rem; white-space: nowrap }
 """
 
 PAGE = """<!DOCTYPE html>

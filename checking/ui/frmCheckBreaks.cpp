@@ -214,7 +214,7 @@ std::string frmCheckBreaks::GoToMismatch(MismatchStep step, std::optional<float>
     if (step == MismatchStep::kPrevious && (!time || here || at(row) < *time)) found = row;
   }
   if (!found) {
-    return (step == MismatchStep::kNext ? "No mismatch behind " : "No mismatch before ") +
+    return (step == MismatchStep::kNext ? "No mismatch after " : "No mismatch before ") +
            FormatTimeDisplay(*time, kMaskHoursMinutes);
   }
   lvwResults_->SelectRow(*found);
