@@ -193,7 +193,7 @@ def leaves_nothing(desk, temporary):
 
 def no_room(desk):
     """Where the station can't be written, a box says what to do."""
-    desk.environment["TMPDIR"] = str(desk.folder / "nowhere")
+    desk.environment["TMPDIR"] = str(desk.folder / "opened")  # no folder at all
     program = desk.start(BIN / "logchecker", "--try")
     box = desk.window(TITLE, "message that there is no room")
     desk.keys("Return")
