@@ -76,8 +76,12 @@ void SaveDialog::FilterBy(const QString& pattern) {
     selectNameFilter(*offered);
     return;
   }
-  setNameFilters(filters_ + QStringList(pattern));
-  selectNameFilter(pattern);
+  // The toolkit takes brackets for the ends of the pattern, and blanks for the ends of one of several.
+  QString taken = pattern;
+  for (const QChar mark : QString("() ")) taken.replace(mark, '?');
+  const QString typed = pattern + " (" + taken + ")";
+  setNameFilters(filters_ + QStringList(typed));
+  selectNameFilter(typed);
 }
 
 // A folder whose name was typed in another letter case is entered as by its own name.
