@@ -11,6 +11,7 @@
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -49,6 +50,7 @@ int WishedHeight(const QWidget* control) { return ToTwips(control->sizeHint().he
 
 void frmCartBrowser::MakeControls() {
   setObjectName("frmCartBrowser");
+  SetGuidePage(*this, kGuideBrowser);
   setWindowTitle("Cart Browser");
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
@@ -86,6 +88,21 @@ void frmCartBrowser::MakeControls() {
       "descriptions.");
   chkDouble_->installEventFilter(this);
   cmdCancel_ = Named(new QPushButton("Cancel", this), "cmdCancel");
+  DescribeKeys();
+}
+
+// For those who can't see the page of all keys.
+void frmCartBrowser::DescribeKeys() {
+  txtCartNumber_->setAccessibleDescription(
+      "Keys: Enter goes to that cart, and a second time takes it; Up, Down, Page Up and Page Down "
+      "move; F searches, T shows notes, question mark opens the guide, Escape leaves");
+  cmdJumpCart_->setAccessibleDescription("Keys: Enter, J");
+  cmdFindCart_->setAccessibleDescription("Key: F");
+  cmdSmallScroll_[0]->setAccessibleDescription("Key: Up");
+  cmdSmallScroll_[1]->setAccessibleDescription("Key: Down");
+  cmdBigScroll_[0]->setAccessibleDescription("Key: Page Up");
+  cmdBigScroll_[1]->setAccessibleDescription("Key: Page Down");
+  cmdCancel_->setAccessibleDescription("Key: Escape");
 }
 
 QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* icon,

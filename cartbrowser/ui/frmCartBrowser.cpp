@@ -15,6 +15,7 @@
 #include "cartbrowser/ui/frmFindCart.h"
 #include "common/FitTextToWidth.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -156,6 +157,11 @@ bool frmCartBrowser::eventFilter(QObject* watched, QEvent* event) {
 bool frmCartBrowser::OnKey(const QKeyEvent& key) {
   if (KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier))) return true;
   const char character = CharacterOf(key);
+  // F1 is one of the store's own keys here.
+  if (character == '?') {
+    OpenGuide(this);
+    return true;
+  }
   if (character != 0 && KeyPress(character)) return true;
   return focusWidget() == txtCartNumber_ && TypesACharacter(key) && !JumpBoxTakes(character);
 }

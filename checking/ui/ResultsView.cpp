@@ -67,6 +67,13 @@ std::string ResultsView::KeyOfSelectedRow() const {
   return row < list_.ListItems.size() ? list_.ListItems[row].key : "";
 }
 
+void ResultsView::SelectRow(size_t row) {
+  const QModelIndex index = model_->index(static_cast<int>(row), 0);
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(index);
+}
+
 void ResultsView::ShareColumns(bool keepFirst) {
   if (model_->columnCount() < 1) return;
   dragged_ = false;

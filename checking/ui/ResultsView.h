@@ -27,6 +27,8 @@ class ResultsView : public QTreeView {
 
   // The key of the selected row, of several the one that was last gone to; empty without any.
   std::string KeyOfSelectedRow() const;
+  // Makes this row, counted from 0, the only selected one, and brings it into view.
+  void SelectRow(size_t row);
 
   // Gives all columns but the first even shares of what that one leaves. The first one takes its
   // width from the list unless it is to keep the one that it has. A width that the user gives a

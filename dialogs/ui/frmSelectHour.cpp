@@ -9,6 +9,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
 #include "common/ui/TextBoxes.h"
@@ -44,6 +45,9 @@ frmSelectHour::frmSelectHour(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmSelectHour>()) {
   const BusyPointer busy;
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideLoadDay);
+  ui_->DateFrame->setAccessibleDescription(
+      "Keys for the day: Left and Right by a day, Up and Down by a week");
   SetColours(*ui_->AMSH, kMorningColour, kBlack);
   SetColours(*ui_->PMSH, kAfternoonColour, kBlack);
   SetColours(*ui_->lblYear, kButtonFace, kButtonText);

@@ -20,6 +20,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -45,6 +46,7 @@ constexpr QSize kRoomForFrame{16, 48};
 
 frmMain::frmMain() : area_(new QMdiArea) {
   setObjectName("frmMain");
+  SetGuidePage(*this, kGuideCheckDay);
   setWindowTitle(kProgramTitle);
   setWindowIcon(IconNamed("program"));
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -62,6 +64,12 @@ frmMain::frmMain() : area_(new QMdiArea) {
   connect(area_, &QMdiArea::subWindowActivated, this,
           [this](QMdiSubWindow* child) { OnChildActivated(child); });
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { SwitchFocus(); });
+  const auto step = [this](const QKeySequence& key, MismatchStep way) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this,
+            [this, way] { Guarded([&] { GoToMismatch(way); }); });
+  };
+  step(Qt::Key_F8, MismatchStep::kNext);
+  step(Qt::SHIFT | Qt::Key_F8, MismatchStep::kPrevious);
   QSize size = kDesignSize;
   if (const QScreen* screen = QApplication::primaryScreen()) {
     size = size.boundedTo(screen->availableSize() - kRoomForFrame);

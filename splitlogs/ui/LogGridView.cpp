@@ -25,6 +25,10 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
+constexpr char kKeys[] =
+    "Keys: Enter lines all splits up on the break, F8 and Shift+F8 go to the next and the previous "
+    "mismatch, F6 to the toolbar";
+
 }  // namespace
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
@@ -45,6 +49,7 @@ LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   SetUpColumns();
   FitFont();
+  Describe();
   grid_.SetObserver(this);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
           [this](int value) { OnScrolled(value); });
@@ -113,9 +118,14 @@ void LogGridView::SelectionChanged() {
 // A selection that is the same as before can have become one that stands in for another break.
 void LogGridView::ShowMiss() {
   const QString words = ToQString(MissInWords(grid_));
-  if (words == accessibleDescription()) return;
-  setAccessibleDescription(words);
+  if (words == miss_) return;
+  miss_ = words;
+  Describe();
   viewport()->update();
+}
+
+void LogGridView::Describe() {
+  setAccessibleDescription((miss_.isEmpty() ? QString() : miss_ + ". ") + kKeys);
 }
 
 bool LogGridView::viewportEvent(QEvent* event) {
@@ -123,7 +133,7 @@ bool LogGridView::viewportEvent(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     if (index.isValid() && selectionModel()->isSelected(index)) {
-      QToolTip::showText(help->globalPos(), AsToolTip(accessibleDescription()), viewport());
+      QToolTip::showText(help->globalPos(), AsToolTip(miss_), viewport());
       return true;
     }
   }

@@ -44,8 +44,10 @@ class LogGridView : public QTableView, public LogGridObserver {
   void FitFont();
   void OnScrolled(int value);
   void ShowMiss();
+  void Describe();
 
   LogGrid& grid_;
+  QString miss_;  // what the selection stands in for, in words; empty where it is a hit
   LogGridModel* model_;
   bool following_ = false;  // the view is being brought in line with the grid
   bool pressed_ = false;    // a click has begun

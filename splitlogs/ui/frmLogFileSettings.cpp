@@ -11,6 +11,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -32,6 +33,7 @@ std::string TextOf(const QLineEdit* box) { return FromQString(box->text()); }
 frmLogFileSettings::frmLogFileSettings(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLogFileSettings>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSplit);
   ConnectFields();
   SetSplitNumberLabel("1");
 }
