@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "common/ui/Guard.h"
@@ -120,6 +121,11 @@ QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* i
 void frmCartBrowser::ConnectControls() {
   connect(txtCartNumber_, &QLineEdit::textChanged, this,
           [this](const QString& text) { SetJumpText(FromQString(text)); });
+  connect(txtCartNumber_, &QLineEdit::textEdited, this, [this] {
+    if (!pnlCartLabels_->IsTold()) return;
+    pnlCartLabels_->StopTelling();
+    TellFocus(*txtCartNumber_);
+  });
   connect(cmdJumpCart_, &QPushButton::clicked, this,
           [this] { Guarded([this] { JumpClicked(); }); });
   connect(cmdFindCart_, &QPushButton::clicked, this,

@@ -98,6 +98,7 @@ bool frmCartBrowser::event(QEvent* event) {
     // A number that the user is in the midst of typing stays as it is.
     if (!Activated() || focusWidget() != txtCartNumber_) Guarded([this] { Activate(); });
     KeepFrameOnScreen();
+    pnlCartLabels_->TellCurrentRow();
   }
   if (event->type() == QEvent::ApplicationFontChange) {
     TakeFont();
@@ -120,6 +121,8 @@ void frmCartBrowser::showEvent(QShowEvent* event) {
   // The size has its rows already, from the first showing or the last change.
   if (pnlDescription_->isHidden() == ShowDescription) Guarded([this] { LayOut(); });
   Guarded([this] { Activate(); });
+  // Who comes in begins in the box for a number.
+  pnlCartLabels_->ForgetMarks();
 }
 
 void frmCartBrowser::hideEvent(QHideEvent* event) {

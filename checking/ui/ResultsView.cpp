@@ -35,6 +35,7 @@ constexpr int kWidestHeading = 2;  // times that text
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
+  UseAccessibleTables();
   SetUpReportList(*this);
   setModel(model_);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -209,9 +210,23 @@ void ResultsView::keyPressEvent(QKeyEvent* event) {
   QTreeView::keyPressEvent(event);
 }
 
+void ResultsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
+}
+
+void ResultsView::MakeRowCurrent(int row) { setCurrentIndex(model_->index(row, 0)); }
+
+void ResultsView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit rowChosen();
+}
+
 void ResultsView::selectionChanged(const QItemSelection& selected,
                                    const QItemSelection& deselected) {
-  QTreeView::selectionChanged(selected, deselected);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own counts headings in its own way
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
   const auto mark = [this](const QItemSelection& ranges, bool on) {
     for (const QItemSelectionRange& range : ranges) {
       for (int row = range.top(); row <= range.bottom(); ++row) {

@@ -188,6 +188,9 @@ void frmCheckBreaks::ShowOutcome() {
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);
   if (check_.picNoResultsVisible) picNoResults_->raise();
+  // The list has the focus, whatever lies over it.
+  const auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
+  lvwResults_->setAccessibleName(check_.picNoResultsVisible ? words->text() : Label1_->text());
   // Esc, the arrows and Enter are for the outcome, whichever control asked for the check.
   lvwResults_->setFocus();
 }

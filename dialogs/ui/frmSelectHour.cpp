@@ -8,6 +8,7 @@
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
@@ -52,6 +53,9 @@ frmSelectHour::frmSelectHour(QWidget* parent)
   SetColours(*ui_->PMSH, kAfternoonColour, kBlack);
   SetColours(*ui_->lblYear, kButtonFace, kButtonText);
   SetColours(*ui_->calendar, kWhite, kBlack);
+  SetAccessibleRole(*ui_->calendar, QAccessible::List);
+  ui_->AMSH->setAccessibleName("Green");
+  ui_->PMSH->setAccessibleName("Red");
   for (int i = 0; i < kDaysInWeek; ++i) {
     auto* heading = findChild<QLabel*>(QString("lbl%1").arg(i));
     SetColours(*heading, kWhite, i == 0 ? kRed : kBlack);
@@ -86,6 +90,8 @@ void frmSelectHour::Connect() {
           [this](const QString& text) { ui_->TimeP->SetHour(ToInt32(Val(FromQString(text)))); });
   connect(ui_->TimeP, &HourDial::pressed, this,
           [this](const QPointF& position) { Guarded([&] { OnDialPressed(position); }); });
+  connect(ui_->TimeP, &HourDial::turned, this,
+          [this](int32_t hour) { ui_->TimeT->setText(QString::number(hour)); });
   connect(ui_->TimeP, &HourDial::doubleClicked, this, [this] { ui_->OKB->click(); });
   connect(ui_->OKB, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->CancelB, &QPushButton::clicked, this, [this] { OnCancel(); });
@@ -190,12 +196,13 @@ void frmSelectHour::RedrawMonth() {
   for (int16_t label = 0; label < kCalendarLabels; ++label) {
     LabelOfDay(label)->clear();
     LabelOfDay(label)->setFrameShape(QFrame::NoFrame);
+    LabelOfDay(label)->SetMarked(false);
     LabelOfDay(label)->setAccessibleName({});
     SetDayLook(label, false);
   }
   const QString rest = " " + ui_->MonthList->currentText() + " " + ui_->lblYear->text();
   for (int16_t day = 1; day <= DaysInMonth; ++day) {
-    QLabel* label = LabelOfDay(static_cast<int16_t>(FirstDayOffset + day));
+    DayLabel* label = LabelOfDay(static_cast<int16_t>(FirstDayOffset + day));
     label->setText(QString::number(day));
     label->setAccessibleName(QString::number(day) + rest);
   }
@@ -205,26 +212,28 @@ void frmSelectHour::RedrawMonth() {
 
 void frmSelectHour::SelectDay() {
   SelectedDay = std::clamp(SelectedDay, int16_t{1}, DaysInMonth);
+  const int16_t selected = SelectedDay;
   if (MarkedDay > 0) {
     LabelOfMarkedDay()->setFrameShape(QFrame::NoFrame);
+    LabelOfMarkedDay()->SetMarked(selected == MarkedDay);
     SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), false);
   }
-  const int16_t selected = SelectedDay;
   {
     const QSignalBlocker quiet(ui_->DayScroll);
     ui_->DayScroll->setValue(selected);
   }
   MarkedDay = selected;
   LabelOfMarkedDay()->setFrameShape(QFrame::Box);
+  LabelOfMarkedDay()->SetMarked(true);
   SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), DayHasFocus);
   ui_->DayScroll->setAccessibleDescription(LabelOfMarkedDay()->accessibleName());
 }
 
-QLabel* frmSelectHour::LabelOfDay(int16_t label) const {
-  return findChild<QLabel*>(QString("lblDay%1").arg(label));
+DayLabel* frmSelectHour::LabelOfDay(int16_t label) const {
+  return findChild<DayLabel*>(QString("lblDay%1").arg(label));
 }
 
-QLabel* frmSelectHour::LabelOfMarkedDay() const {
+DayLabel* frmSelectHour::LabelOfMarkedDay() const {
   return LabelOfDay(static_cast<int16_t>(FirstDayOffset + MarkedDay));
 }
 

@@ -13,6 +13,7 @@
 #include "common/SystemHelpers.h"
 #include "common/UserInterface.h"
 #include "common/VersionData.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "platform/HostPaths.h"
@@ -101,6 +102,7 @@ void frmSplash::SetCurrentAction(const std::string& text) {
 
 void frmSplash::ShowAsAboutBox() {
   setAttribute(Qt::WA_DeleteOnClose);
+  SetAccessibleRole(*this, QAccessible::Dialog);
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
   if (floating_ != 0) setWindowFlag(Qt::WindowStaysOnTopHint);
   ui_->cmdOK->show();

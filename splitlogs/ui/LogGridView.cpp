@@ -33,6 +33,7 @@ constexpr char kKeys[] =
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
+  UseAccessibleTables();
   setHorizontalHeader(new CompactHeader(this));
   setModel(model_);
   setItemDelegate(new LogCellDelegate(grid, this));
@@ -149,12 +150,29 @@ void LogGridView::OnScrolled(int value) {
 }
 
 void LogGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QTableView::currentChanged(current, previous);
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
   if (following_ || !current.isValid()) return;
   Guarded([&] {
     const QScopedValueRollback<bool> following(following_, true);
     if (current.row() + 1 < grid_.Rows()) grid_.SetRow(current.row() + 1);
   });
+}
+
+void LogGridView::selectionChanged(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own tells of hidden columns
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
+}
+
+void LogGridView::MakeRowCurrent(int row) {
+  setCurrentIndex(model_->index(row, kDescriptionColumn));
+}
+
+void LogGridView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit breakChosen();
 }
 
 void LogGridView::keyPressEvent(QKeyEvent* event) {
