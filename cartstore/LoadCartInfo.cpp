@@ -28,57 +28,72 @@ int32_t ReadOwnListFile(const std::string& file, CartRecord* record) {
   return error == kNoError ? closing : error;
 }
 
-// A record without a played stretch plays from its beginning to its end.
-void RepairPlayedStretch(CartInfo& info) {
-  if (info.EndPoint > 0 && info.PlayLength > 0) return;
-  info.StartPoint = 0;
-  info.EndPoint = info.TotalLength;
-  info.PlayLength = info.EndPoint - info.StartPoint;
-}
-
-int16_t Blank(CartInfo& info, int32_t result) {
-  info = gBlankCartInfo;
-  return static_cast<int16_t>(result);
-}
-
-}  // namespace
-
-int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
-  if (cartNumber < 1 || cartNumber > gNumberOfCarts) return Blank(info, kOutOfReach);
+// Fills `record` and returns 0, or returns what LoadCartInfo does for a cart that can't be read.
+int16_t ReadRecord(CartRecord& record, int32_t cartNumber) {
+  if (cartNumber < 1 || cartNumber > gNumberOfCarts) return kOutOfReach;
   ClearError();
   const int16_t part = GetCartPart(cartNumber);
   AudiowallPart& entry = PartEntry(part);
   if (entry.State != kPartUsable && OpenAudiowall(part, true) != 0) {
     entry.State = kPartUnusable;
     TellUnreadableCart(cartNumber, entry.Path, kOutOfReach);
-    return Blank(info, kOutOfReach);
+    return kOutOfReach;
   }
-  CartRecord record = gBlankCartRecord;
-  bool read = false;
+  record = gBlankCartRecord;
   if (gAudioSettings.UseIndividualCartListFiles) {
     const std::string file = GetCartFileStem(cartNumber) + ".LST";
     if (GetFileLength(file) > 0) {
       const int32_t error = ReadOwnListFile(file, &record);
-      if (!Succeeded(error)) {
-        TellUnreadableCart(cartNumber, file, error);
-        return Blank(info, error);
-      }
-      read = true;
+      if (!Succeeded(error)) TellUnreadableCart(cartNumber, file, error);
+      return static_cast<int16_t>(error);
     }
   }
-  if (!read) {
-    const int32_t recordNumber = cartNumber - (part - 1) * kCartsOfAPart;
-    const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
-    if (!Succeeded(error)) {
-      entry.State = kPartUnusable;
-      TellUnreadableCart(cartNumber, entry.FullFileName, error);
-      return Blank(info, error);
-    }
+  const int32_t recordNumber = cartNumber - (part - 1) * kCartsOfAPart;
+  const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
+  if (!Succeeded(error)) {
+    entry.State = kPartUnusable;
+    TellUnreadableCart(cartNumber, entry.FullFileName, error);
   }
-  CartInfoFromRecord(info, record);
-  RepairPlayedStretch(info);
-  if (info.TotalLength == gBlankCartInfo.TotalLength) return Blank(info, 0);
-  return 0;
+  return static_cast<int16_t>(error);
+}
+
+// A record without a played stretch plays from its beginning to its end.
+void RepairPlayedStretch(CartRecord& record) {
+  if (record.EndPoint > 0 && record.PlayLength > 0) return;
+  record.StartPoint = 0;
+  record.EndPoint = record.TotalLength;
+  record.PlayLength = record.EndPoint - record.StartPoint;
+}
+
+// Whether there is a cart in `record`; `result` is what reading it gave.
+bool HoldsCart(const CartRecord& record, int16_t result) {
+  return result == 0 && record.TotalLength != gBlankCartInfo.TotalLength;
+}
+
+}  // namespace
+
+int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
+  CartRecord record;
+  const int16_t result = ReadRecord(record, cartNumber);
+  if (HoldsCart(record, result)) {
+    RepairPlayedStretch(record);
+    CartInfoFromRecord(info, record);
+  } else {
+    info = gBlankCartInfo;
+  }
+  return result;
+}
+
+int16_t LoadCartLengths(CartLengths& lengths, int32_t cartNumber) {
+  CartRecord record;
+  const int16_t result = ReadRecord(record, cartNumber);
+  if (HoldsCart(record, result)) {
+    RepairPlayedStretch(record);
+    lengths = {record.Length, record.PlayLength};
+  } else {
+    lengths = {gBlankCartInfo.Length, gBlankCartInfo.PlayLength};
+  }
+  return result;
 }
 
 }  // namespace logchecker

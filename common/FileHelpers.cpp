@@ -43,10 +43,18 @@ std::string WriteWholeFile(const std::string& path, const std::string& bytes) {
   return error == kNoError ? "" : ShownPath(path) + " could not be written: " + ErrorText(error);
 }
 
-void ReadTextLine(int16_t fileNumber, std::string& line) {
-  line.clear();
-  if (fileNumber <= 0) return;
+namespace {
+
+std::string_view WithoutReturns(std::string& line, size_t firstReturn) {
+  line.erase(std::remove(line.begin() + static_cast<std::ptrdiff_t>(firstReturn), line.end(), '\r'),
+             line.end());
+  return line;
+}
+
+// Of a line that the bytes read ahead do not hold to its end.
+std::string_view ReadInPieces(int16_t fileNumber, std::string& line) {
   Files& files = Os().files;
+  line.clear();
   bool atEnd = false;
   while (!atEnd) {
     std::string_view bytes;
@@ -63,15 +71,30 @@ void ReadTextLine(int16_t fileNumber, std::string& line) {
   }
   if (atEnd && !line.empty()) line.pop_back();
   const size_t firstReturn = line.find('\r');
-  if (firstReturn == std::string::npos) return;
-  line.erase(std::remove(line.begin() + static_cast<std::ptrdiff_t>(firstReturn), line.end(), '\r'),
-             line.end());
+  return firstReturn == std::string::npos ? line : WithoutReturns(line, firstReturn);
+}
+
+}  // namespace
+
+std::string_view ReadTextLine(int16_t fileNumber, std::string& spare) {
+  if (fileNumber <= 0) return {};
+  Files& files = Os().files;
+  std::string_view bytes;
+  if (!Succeeded(files.Peek(fileNumber, &bytes))) return {};
+  const size_t lineFeed = bytes.find('\n');
+  if (lineFeed == std::string_view::npos) return ReadInPieces(fileNumber, spare);
+  files.Skip(fileNumber, lineFeed + 1);
+  const std::string_view line = bytes.substr(0, lineFeed);
+  const size_t firstReturn = line.find('\r');
+  if (firstReturn == std::string_view::npos) return line;
+  if (firstReturn + 1 == lineFeed) return line.substr(0, firstReturn);
+  spare = line;
+  return WithoutReturns(spare, firstReturn);
 }
 
 std::string ReadTextLine(int16_t fileNumber) {
-  std::string line;
-  ReadTextLine(fileNumber, line);
-  return line;
+  std::string spare;
+  return std::string(ReadTextLine(fileNumber, spare));
 }
 
 std::string GetWindowsFolder() { return Os().system.WindowsFolder(); }

@@ -17,7 +17,10 @@ struct Field {
   char text[2] = {' ', ' '};
 
   bool IsBlank() const { return text[0] == ' ' && text[1] == ' '; }
-  void AddTo(std::string& result) const { result.append(text, 2); }
+  void AddTo(TimeDisplay& result) const {
+    result.Add(text[0]);
+    result.Add(text[1]);
+  }
 
   // Two digits with a leading zero.
   void Pad(int32_t value) {
@@ -52,7 +55,7 @@ Fields FillFields(double seconds, int32_t mask) {
   }
   if (mask == 100) return fields;  // this mask alone leaves every field without a value
   seconds = RoundByTens(seconds, mask);
-  const auto whole = static_cast<int32_t>(std::floor(seconds));
+  const auto whole = static_cast<int32_t>(seconds);
   const auto hundredths = static_cast<int32_t>(RoundHalfEven(seconds * 100)) % 100;
   const bool dropZeros = mask > 100;
   fields.hundredths.Set(hundredths, dropZeros && seconds < 1);
@@ -64,29 +67,40 @@ Fields FillFields(double seconds, int32_t mask) {
 
 }  // namespace
 
-std::string FormatTimeDisplay(double seconds, int32_t mask) {
+TimeDisplay TimeDisplayOf(double seconds, int32_t mask) {
   const Fields fields = FillFields(seconds, mask);
   const int32_t units = mask % 10;
   const bool keepsBlanks = mask < 200;
-  std::string result;
+  TimeDisplay result;
   if ((units == 1 || units == 2 || units == 4) && (keepsBlanks || !fields.hours.IsBlank())) {
     fields.hours.AddTo(result);
-    result += ':';
+    result.Add(':');
   }
   fields.minutes.AddTo(result);
   if (units != 4 && (keepsBlanks || !fields.seconds.IsBlank())) {
-    result += ':';
+    result.Add(':');
     fields.seconds.AddTo(result);
   }
   if (units == 0 || units == 1) {
-    result += '.';
+    result.Add('.');
     fields.hundredths.AddTo(result);
   }
   return result;
 }
 
+TimeDisplay LengthDisplayOf(float seconds, int32_t mask) {
+  if (std::isfinite(seconds)) return TimeDisplayOf(seconds, mask);
+  TimeDisplay none;
+  for (const char c : std::string_view(kNoTimeText)) none.Add(c);
+  return none;
+}
+
+std::string FormatTimeDisplay(double seconds, int32_t mask) {
+  return std::string(std::string_view(TimeDisplayOf(seconds, mask)));
+}
+
 std::string FormatLengthDisplay(float seconds, int32_t mask) {
-  return std::isfinite(seconds) ? FormatTimeDisplay(seconds, mask) : kNoTimeText;
+  return std::string(std::string_view(LengthDisplayOf(seconds, mask)));
 }
 
 namespace {
