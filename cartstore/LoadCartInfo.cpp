@@ -28,28 +28,34 @@ int32_t ReadOwnListFile(const std::string& file, CartRecord* record) {
   return error == kNoError ? closing : error;
 }
 
-// Fills `record` and returns 0, or returns what LoadCartInfo does for a cart that can't be read.
-int16_t ReadRecord(CartRecord& record, int32_t cartNumber) {
+// Makes the cart's part ready to be read; -1 where there is none.
+int16_t ReadyPartOf(int32_t cartNumber, AudiowallPart** entry) {
   if (cartNumber < 1 || cartNumber > gNumberOfCarts) return kOutOfReach;
   ClearError();
   const int16_t part = GetCartPart(cartNumber);
-  AudiowallPart& entry = PartEntry(part);
-  if (entry.State != kPartUsable && OpenAudiowall(part, true) != 0) {
-    entry.State = kPartUnusable;
-    TellUnreadableCart(cartNumber, entry.Path, kOutOfReach);
-    return kOutOfReach;
-  }
-  record = gBlankCartRecord;
+  *entry = &PartEntry(part);
+  if ((*entry)->State == kPartUsable || OpenAudiowall(part, true) == 0) return 0;
+  (*entry)->State = kPartUnusable;
+  TellUnreadableCart(cartNumber, (*entry)->Path, kOutOfReach);
+  return kOutOfReach;
+}
+
+int32_t RecordNumberOf(int32_t cartNumber, const AudiowallPart& entry) {
+  return cartNumber - static_cast<int32_t>(&entry - gAudiowallParts.data()) * kCartsOfAPart;
+}
+
+// Reads the cart's record as far as there is one, and returns an error number.
+int16_t ReadRecord(int32_t cartNumber, AudiowallPart& entry, CartRecord* record) {
   if (gAudioSettings.UseIndividualCartListFiles) {
     const std::string file = GetCartFileStem(cartNumber) + ".LST";
     if (GetFileLength(file) > 0) {
-      const int32_t error = ReadOwnListFile(file, &record);
+      const int32_t error = ReadOwnListFile(file, record);
       if (!Succeeded(error)) TellUnreadableCart(cartNumber, file, error);
       return static_cast<int16_t>(error);
     }
   }
-  const int32_t recordNumber = cartNumber - (part - 1) * kCartsOfAPart;
-  const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
+  const int32_t number = RecordNumberOf(cartNumber, entry);
+  const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), number, record);
   if (!Succeeded(error)) {
     entry.State = kPartUnusable;
     TellUnreadableCart(cartNumber, entry.FullFileName, error);
@@ -73,8 +79,13 @@ bool HoldsCart(const CartRecord& record, int16_t result) {
 }  // namespace
 
 int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
+  AudiowallPart* entry = nullptr;
   CartRecord record;
-  const int16_t result = ReadRecord(record, cartNumber);
+  int16_t result = ReadyPartOf(cartNumber, &entry);
+  if (result == 0) {
+    record = gBlankCartRecord;
+    result = ReadRecord(cartNumber, *entry, &record);
+  }
   if (HoldsCart(record, result)) {
     RepairPlayedStretch(record);
     CartInfoFromRecord(info, record);
@@ -84,9 +95,20 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
   return result;
 }
 
+// Of the blank cart, which stands behind the end of a file, no more is made ready than is looked
+// at.
 int16_t LoadCartLengths(CartLengths& lengths, int32_t cartNumber) {
+  AudiowallPart* entry = nullptr;
   CartRecord record;
-  const int16_t result = ReadRecord(record, cartNumber);
+  int16_t result = ReadyPartOf(cartNumber, &entry);
+  if (result == 0) {
+    record.Length = gBlankCartRecord.Length;
+    record.TotalLength = gBlankCartRecord.TotalLength;
+    record.StartPoint = gBlankCartRecord.StartPoint;
+    record.EndPoint = gBlankCartRecord.EndPoint;
+    record.PlayLength = gBlankCartRecord.PlayLength;
+    result = ReadRecord(cartNumber, *entry, &record);
+  }
   if (HoldsCart(record, result)) {
     RepairPlayedStretch(record);
     lengths = {record.Length, record.PlayLength};

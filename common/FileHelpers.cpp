@@ -43,53 +43,35 @@ std::string WriteWholeFile(const std::string& path, const std::string& bytes) {
   return error == kNoError ? "" : ShownPath(path) + " could not be written: " + ErrorText(error);
 }
 
-namespace {
-
-std::string_view WithoutReturns(std::string& line, size_t firstReturn) {
-  line.erase(std::remove(line.begin() + static_cast<std::ptrdiff_t>(firstReturn), line.end(), '\r'),
-             line.end());
-  return line;
+std::string_view WithoutReturns(std::string_view line, std::string& spare) {
+  const size_t firstReturn = line.find('\r');
+  if (firstReturn == std::string_view::npos) return line;
+  if (firstReturn + 1 == line.size()) return line.substr(0, firstReturn);
+  spare = line;
+  spare.erase(std::remove(spare.begin(), spare.end(), '\r'), spare.end());
+  return spare;
 }
 
-// Of a line that the bytes read ahead do not hold to its end.
-std::string_view ReadInPieces(int16_t fileNumber, std::string& line) {
+std::string_view ReadTextLine(int16_t fileNumber, std::string& spare) {
+  spare.clear();
+  if (fileNumber <= 0) return spare;
   Files& files = Os().files;
-  line.clear();
   bool atEnd = false;
   while (!atEnd) {
     std::string_view bytes;
     const bool failed = !Succeeded(files.Peek(fileNumber, &bytes)) ||
-                        !Succeeded(line.size() > kLongestLine ? kOverflow : kNoError);
+                        !Succeeded(spare.size() > kLongestLine ? kOverflow : kNoError);
     atEnd = failed || bytes.empty();
     const size_t lineFeed = bytes.find('\n');
-    line.append(bytes.substr(0, lineFeed));
+    spare.append(bytes.substr(0, lineFeed));
     if (lineFeed != std::string_view::npos) {
       files.Skip(fileNumber, lineFeed + 1);
       break;
     }
     files.Skip(fileNumber, bytes.size());
   }
-  if (atEnd && !line.empty()) line.pop_back();
-  const size_t firstReturn = line.find('\r');
-  return firstReturn == std::string::npos ? line : WithoutReturns(line, firstReturn);
-}
-
-}  // namespace
-
-std::string_view ReadTextLine(int16_t fileNumber, std::string& spare) {
-  if (fileNumber <= 0) return {};
-  Files& files = Os().files;
-  std::string_view bytes;
-  if (!Succeeded(files.Peek(fileNumber, &bytes))) return {};
-  const size_t lineFeed = bytes.find('\n');
-  if (lineFeed == std::string_view::npos) return ReadInPieces(fileNumber, spare);
-  files.Skip(fileNumber, lineFeed + 1);
-  const std::string_view line = bytes.substr(0, lineFeed);
-  const size_t firstReturn = line.find('\r');
-  if (firstReturn == std::string_view::npos) return line;
-  if (firstReturn + 1 == lineFeed) return line.substr(0, firstReturn);
-  spare = line;
-  return WithoutReturns(spare, firstReturn);
+  if (atEnd && !spare.empty()) spare.pop_back();
+  return WithoutReturns(spare, spare);
 }
 
 std::string ReadTextLine(int16_t fileNumber) {

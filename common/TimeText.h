@@ -22,20 +22,18 @@ std::string FormatTimeDisplay(double seconds, int32_t mask);
 // FormatTimeDisplay of a length, but "--:--" for one that is no finite number.
 std::string FormatLengthDisplay(float seconds, int32_t mask);
 
-// Room for what either of them shows.
+// What either of them shows, without an allocation.
 class TimeDisplay {
  public:
+  static TimeDisplay OfTime(double seconds, int32_t mask);
+  static TimeDisplay OfLength(float seconds, int32_t mask);
+
   operator std::string_view() const { return {text_.data(), size_}; }
-  void Add(char c) { text_[size_++] = c; }
 
  private:
   std::array<char, 15> text_;
   uint8_t size_ = 0;
 };
-
-// The same two, for those who show thousands.
-TimeDisplay TimeDisplayOf(double seconds, int32_t mask);
-TimeDisplay LengthDisplayOf(float seconds, int32_t mask);
 
 // The seconds that a text of fixed layout stands for: two-character fields at positions 1, 4, 7 and
 // 10, by the mask's units digit as above (3 alone for mm:ss). Rounded to single precision. A field

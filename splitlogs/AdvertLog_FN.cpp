@@ -63,7 +63,16 @@ float LogLine::Time() const {
                             Val(Columns(hoursAndMinutes_, 4, 5)) * 60 + Val(seconds_));
 }
 
-int32_t LogLine::Cart() const { return ToInt32(Val(cart_)); }
+// The columns have room for no more digits than the number.
+int32_t LogLine::Cart() const {
+  int32_t number = 0;
+  for (const char c : cart_) {
+    if (c == ' ') continue;
+    if (c < '0' || c > '9') return ToInt32(Val(cart_));
+    number = number * 10 + (c - '0');
+  }
+  return number;
+}
 
 std::string LogLine::TXChainCode() const { return ToUpper(Trim(chain_)); }
 

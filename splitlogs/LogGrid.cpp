@@ -99,7 +99,7 @@ int32_t LogGrid::BackColour(int32_t row, int32_t column) const {
 void LogGrid::SetBackColour(int32_t row, int32_t column, int32_t colour) {
   std::vector<int32_t>& colours = backColours_[static_cast<size_t>(column)];
   const auto at = static_cast<size_t>(row);
-  if (at >= colours.size()) colours.resize(at + 1, kGridOwnColour);
+  if (at >= colours.size()) colours.resize(rows_.size(), kGridOwnColour);
   colours[at] = colour;
 }
 

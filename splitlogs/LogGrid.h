@@ -146,7 +146,7 @@ class LogGrid {
   GridRows<GridRow> rows_;
   TextPool texts_;
   BreakTimeIndex times_;
-  // By column and row, as far down as any cell of the column has a colour of its own.
+  // By column and row; the rows that are not there yet have none of their own.
   std::array<std::vector<int32_t>, kLogColumns> backColours_;
   int32_t row_ = 0;
   int32_t column_ = 0;

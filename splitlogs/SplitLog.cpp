@@ -5,12 +5,12 @@
 
 #include "cartstore/LoadCartInfo.h"
 #include "common/ErrorState.h"
-#include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
 #include "common/Lookalikes.h"
 #include "common/Numbers.h"
 #include "common/PathText.h"
 #include "common/TextHelpers.h"
+#include "common/TextLines.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
@@ -65,7 +65,7 @@ class GridFiller {
   void AddAdvert(const LogLine& line, int64_t position) {
     if (!inBreak_) {
       inBreak_ = true;
-      const TimeDisplay time = TimeDisplayOf(line.Time(), kMaskHoursMinutesSeconds);
+      const TimeDisplay time = TimeDisplay::OfTime(line.Time(), kMaskHoursMinutesSeconds);
       grid_.SetText(row_, kTimeColumn, std::string_view(time).substr(0, kTimeTextLength));
     }
     AdvertCells cells;
@@ -79,7 +79,7 @@ class GridFiller {
     LoadCartLengths(cart, cells.cart);
     TimeDisplay length;
     if (cart.PlayLength > 0) {
-      length = LengthDisplayOf(cart.Length, LengthMask(gGeneralSettings.DisplayAdvertHH));
+      length = TimeDisplay::OfLength(cart.Length, LengthMask(gGeneralSettings.DisplayAdvertHH));
       cells.length = length;
       cells.lengthColour = kWhite;
       breakTotal_ += cart.Length;
@@ -93,8 +93,9 @@ class GridFiller {
     grid_.SetText(row_, kPositionColumn, "");
     if (!inBreak_) return;
     if (breakTotal_ > 0) {
-      grid_.SetText(row_, kLengthColumn,
-                    LengthDisplayOf(breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH)));
+      grid_.SetText(
+          row_, kLengthColumn,
+          TimeDisplay::OfLength(breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH)));
     } else {
       grid_.SetText(row_, kLengthColumn, kNoTimeText);
     }
@@ -186,20 +187,18 @@ void SplitLog::ShowOpenLog() {
 void SplitLog::FillGrid() {
   const SplitSettings& settings = SettingsOf(splitNumber_);
   const int16_t file = settings.LogFileNumber;
-  Files& files = Os().files;
-  RequireSuccess(files.Seek(file, 1));
+  RequireSuccess(Os().files.Seek(file, 1));
   gridLog.SetRows(kRowsAtFirst);
   GridFiller filler(gridLog, settings.LogTXChainCode);
-  std::string spare;
+  TextLines lines(file);
   while (true) {
     bool atEnd = false;
-    RequireSuccess(files.EndOfFile(file, &atEnd));
+    RequireSuccess(lines.AtEnd(&atEnd));
     if (atEnd) break;
     filler.PrepareRow();
-    int64_t position = 0;
-    RequireSuccess(files.Position(file, &position));
+    const int64_t position = lines.Position();
     ClearError();
-    const std::string_view line = ReadTextLine(file, spare);
+    const std::string_view line = lines.Next();
     // A log of which a part can't be read must not pass for a short one.
     RequireSuccess(gErrorState.Number);
     filler.Add(line, position);
