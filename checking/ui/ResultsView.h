@@ -45,7 +45,6 @@ class ResultsView : public QTreeView {
   void rowChosen();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -60,6 +59,7 @@ class ResultsView : public QTreeView {
     int Sum() const;
   };
 
+  void TakeTextSize();
   void MeasureTexts();
   std::vector<int> WidthsIn(const QFont& font, bool twoLines) const;
   void UseFace(const QFont& font);

@@ -13,7 +13,7 @@
 #include "checking/ui/ResultsView.h"
 #include "common/PathText.h"
 #include "common/UserInterface.h"
-#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"

@@ -1,20 +1,14 @@
 #include "common/ui/CellDelegate.h"
 
-#include <QApplication>
 #include <QPainter>
 
-#include "common/ui/Twips.h"
+#include "common/ui/CompactFont.h"
 
 namespace logchecker {
 
 namespace {
 
 constexpr int kMarkerWidth = 3;  // of the bar that shows the selection in a coloured cell
-
-constexpr int kTimeColumnWidth = 500;  // twips, of the narrowest column of times
-constexpr int kTimeCellMargins = 5;    // pixels beside the time's text, the grid line included
-constexpr int kSmallestFont = 9;       // pixels
-constexpr int kRowMargins = 4;         // pixels above and below a row's text
 
 // Of a cell that is set off, on a light and on a dark background.
 constexpr QRgb kTintOnLight = qRgb(255, 232, 178);
@@ -56,18 +50,6 @@ int CellMargin(const QFontMetrics& metrics) {
   constexpr int kCharactersPart = 3;
   return qMax((metrics.averageCharWidth() + 1) / kCharactersPart, 1);
 }
-
-QFont CompactFont() {
-  QFont fitted = QApplication::font();
-  int size = QFontInfo(fitted).pixelSize();
-  const int room = ToPixels(kTimeColumnWidth) - kTimeCellMargins;
-  do {
-    fitted.setPixelSize(size);
-  } while (QFontMetrics(fitted).horizontalAdvance("00:00") > room && --size >= kSmallestFont);
-  return fitted;
-}
-
-int CompactRowHeight() { return QFontMetrics(CompactFont()).height() + kRowMargins; }
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   return {QStyledItemDelegate::sizeHint(option, index).width(), CompactRowHeight()};

@@ -1,5 +1,7 @@
-// Draws every window in its states into a folder, without a screen:
+// Draws every window in its states into a folder, without a screen: in light and in dark colours,
+// and with the desktop's text twice as large as usual:
 //   logchecker_pictures FOLDER
+// QT_SCALE_FACTOR in the environment draws them for a finer screen.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -45,6 +47,8 @@ namespace {
 // Day numbers of the pictures, so that they come out the same on any day.
 constexpr int32_t kToday = 46401;
 
+constexpr QSize kSmallScreen{1024, 600};
+
 QPalette DarkPalette() {
   QPalette dark;
   dark.setColor(QPalette::Window, QColor(45, 48, 52));
@@ -63,6 +67,12 @@ QPalette DarkPalette() {
   dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 125, 130));
   return dark;
 }
+
+struct Look {
+  const char* name;  // behind the pictures' names
+  QPalette palette;
+  QFont font;
+};
 
 class Painter {
  public:
@@ -261,13 +271,20 @@ int Draw(const QString& folder) {
   WriteSampleStation(windowsFolder, station);
   const QtUserInterface userInterface;
   Painter painter(folder);
-  for (const bool dark : {false, true}) {
-    QApplication::setPalette(dark ? DarkPalette() : QPalette());
-    painter.SetTheme(dark ? "-dark" : "");
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(2 * usual.pointSizeF());
+  const Look looks[] = {
+      {"", QPalette(), usual}, {"-dark", DarkPalette(), usual}, {"-large", QPalette(), large}};
+  for (const Look& look : looks) {
+    QApplication::setPalette(look.palette);
+    QApplication::setFont(look.font);
+    painter.SetTheme(look.name);
     for (const int splits : {1, 2, 4, 10}) {
       DrawMain(painter, {1024, 768}, splits);
-      if (!dark) DrawMain(painter, {2560, 1440}, splits);
+      if (look.palette == QPalette()) DrawMain(painter, {2560, 1440}, splits);
     }
+    DrawMain(painter, kSmallScreen, 5);
     DrawResults(painter);
     DrawDialogs(painter);
     DrawBrowser(painter);
