@@ -46,7 +46,8 @@ void FoundCartsView::SetColumnWidths(int listWidth) {
   const auto headers = FoundColumnHeaders(GivenTwips(listWidth));
   for (size_t column = 0; column < headers.size(); ++column) {
     if (headers[column].width == 0) continue;
-    setColumnWidth(static_cast<int>(column), std::max(ToPixels(TableTwips(headers[column].width)), 1));
+    setColumnWidth(static_cast<int>(column),
+                   std::max(ToPixels(TableTwips(headers[column].width)), 1));
   }
 }
 

@@ -34,6 +34,7 @@ constexpr int kListTop = 660;
 constexpr int kProgressHeight = 240;
 
 constexpr int kIconPixels = 17;
+constexpr int kSmallestHeading = 9;  // pixels
 
 }  // namespace
 
@@ -115,6 +116,11 @@ void frmCheckBreaks::Load(const QSize& clientArea) {
   Ui().Yield();
 }
 
+void frmCheckBreaks::changeEvent(QEvent* event) {
+  ChildWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitTexts();
+}
+
 QWidget* frmCheckBreaks::FirstControl() { return lvwResults_; }
 
 void frmCheckBreaks::LayOut() {
@@ -137,9 +143,14 @@ void frmCheckBreaks::LayOut() {
 // The heading takes a smaller font where it would not fit, and the panel's words stand in one line
 // where there is room for it.
 void frmCheckBreaks::FitTexts() {
+  const auto fits = [this] {
+    return Label1_->heightForWidth(Label1_->width()) <= Label1_->height();
+  };
   Label1_->setFont(font());
-  if (Label1_->heightForWidth(Label1_->width()) > Label1_->height()) {
-    Label1_->setFont(CompactFont());
+  QFont smaller = CompactFont();
+  for (int size = smaller.pixelSize(); !fits() && size >= kSmallestHeading; --size) {
+    smaller.setPixelSize(size);
+    Label1_->setFont(smaller);
   }
   auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
   const int room = picNoResults_->width() - ToPixels(4 * kButtonSize);

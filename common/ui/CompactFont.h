@@ -13,7 +13,7 @@ int CompactRowHeight();
 // The widths are as given up to the sizes of text that desktops come with. For a larger text they
 // grow with it: this many times, at least once.
 double TableScale();
-int TableTwips(int twips);           // what a given width takes on the screen
-int GivenTwips(int screenTwips);     // and back
+int TableTwips(int twips);        // what a given width takes on the screen
+int GivenTwips(int screenTwips);  // and back
 
 }  // namespace logchecker

@@ -1,9 +1,11 @@
 #include "common/ui/TitleBarStyle.h"
 
 #include <QApplication>
+#include <QFontMetrics>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
+#include <algorithm>
 
 #include "common/ui/Contrast.h"
 
@@ -14,14 +16,25 @@ namespace {
 // The bar of an active window has a gradient that begins lighter than its colour by this much.
 constexpr int kGradient = 115;  // percent
 
+constexpr int kTitleMargins = 6;  // pixels above and below the words, both together
+
 class TitleBarStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
 
+  // As high as a larger text needs.
+  int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                  const QWidget* widget) const override {
+    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
+    if (metric != PM_TitleBarHeight) return usual;
+    const QFont words = QApplication::font("QMdiSubWindowTitleBar");
+    return std::max(usual, QFontMetrics(words).height() + kTitleMargins);
+  }
+
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override {
-    const auto* bar = control == CC_TitleBar ? qstyleoption_cast<const QStyleOptionTitleBar*>(option)
-                                             : nullptr;
+    const auto* bar =
+        control == CC_TitleBar ? qstyleoption_cast<const QStyleOptionTitleBar*>(option) : nullptr;
     if (bar == nullptr || baseStyle()->name() != "fusion") {
       QProxyStyle::drawComplexControl(control, option, painter, widget);
       return;

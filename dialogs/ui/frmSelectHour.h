@@ -45,6 +45,8 @@ class frmSelectHour : public QDialog {
 
  private:
   void Connect();
+  void ColourCalendar();
+  void FitTextSize();
   void BecomeActive();
   void TakeTag();
   void TakePresentTime();
@@ -55,6 +57,7 @@ class frmSelectHour : public QDialog {
   void OnCancel();
   void Leave(const std::string& tag);
   QLabel* LabelOfDay(int16_t label) const;
+  QLabel* LabelOfWeekday(int weekday) const;
   QLabel* LabelOfMarkedDay() const;
   void SetDayLook(int16_t label, bool reverse);
   bool FilterDayScroll(QEvent* event);
