@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "common/ui/CompactFont.h"
+#include "common/ui/Contrast.h"
 
 namespace logchecker {
 
@@ -69,11 +70,13 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(cell.rect, own.value<QColor>());
     text = index.data(Qt::ForegroundRole).value<QColor>();
     if (selected) {
+      const QColor highlight = cell.palette.color(group, QPalette::Highlight);
       painter->fillRect(QRect(cell.rect.topLeft(), QSize(kMarkerWidth, cell.rect.height())),
-                        cell.palette.color(group, QPalette::Highlight));
+                        SeenOn(own.value<QColor>(), highlight, text));
     }
   } else if (selected) {
-    painter->fillRect(cell.rect, cell.palette.color(group, QPalette::Highlight));
+    painter->fillRect(cell.rect,
+                      ReadableUnder(text, cell.palette.color(group, QPalette::Highlight)));
   }
   if (index.data(kSetOffRole).toBool()) SetOff(*painter, cell, text);
   painter->setPen(text);

@@ -26,6 +26,10 @@ double ContrastOf(const QColor& one, const QColor& other) {
   return (light + kStrayLight) / (dark + kStrayLight);
 }
 
+QColor SeenOn(const QColor& background, const QColor& first, const QColor& other) {
+  return ContrastOf(background, first) >= kPictureContrast ? first : other;
+}
+
 QColor ReadableUnder(const QColor& text, QColor background) {
   constexpr int kStep = 104;  // percent
   constexpr int kMostSteps = 60;

@@ -16,8 +16,6 @@ namespace {
 // The bar of an active window has a gradient that begins lighter than its colour by this much.
 constexpr int kGradient = 115;  // percent
 
-constexpr int kTitleMargins = 6;  // pixels above and below the words, both together
-
 class TitleBarStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -28,7 +26,7 @@ class TitleBarStyle : public QProxyStyle {
     const int usual = QProxyStyle::pixelMetric(metric, option, widget);
     if (metric != PM_TitleBarHeight) return usual;
     const QFont words = QApplication::font("QMdiSubWindowTitleBar");
-    return std::max(usual, QFontMetrics(words).height() + kTitleMargins);
+    return std::max(usual, QFontMetrics(words).height());
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
