@@ -11,6 +11,7 @@
 #include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
@@ -155,16 +156,21 @@ void frmCartBrowser::SetTabOrder() {
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
-// The size that it begins with, and the smallest in which nothing is cut but rows.
-void frmCartBrowser::SetSizes() {
+// The smallest size in which nothing is cut but rows.
+void frmCartBrowser::HoldLeastSize() {
   const int jump = JumpControlsWidth();
   const int scroll = 4 * (WishedHeight(cmdJumpCart_) + kGap);
   const int width = jump + scroll + 4 * kMargin + kControlGap;
-  const int height = ControlsHeight() + BarHeight() + kLeastRowsHeight + 4 * kMargin;
+  const int height = ControlsHeight() + BarHeight() + TableTwips(kLeastRowsHeight) + 4 * kMargin;
   setMinimumSize(ToPixels(width) + 1, ToPixels(height) + 1);
+}
+
+// The size that it begins with.
+void frmCartBrowser::SetSizes() {
+  HoldLeastSize();
   const int left = kDesignHeight - HeightBesideRows();
-  resize(std::max(ToPixels(kDesignWidth), minimumWidth()),
-         ToPixels(kDesignHeight - left + HeightOfWholeRows(left, RowHeight())));
+  const int rows = TableTwips(HeightOfWholeRows(GivenTwips(left), RowHeight()));
+  resize(std::max(ToPixels(kDesignWidth), minimumWidth()), ToPixels(kDesignHeight - left + rows));
 }
 
 // All of the window but the frame of the rows.
@@ -230,10 +236,9 @@ void frmCartBrowser::LayOutJumpControls() {
     left -= kGap;
   }
   const int room = ToTwips(picBrowser_->height()) - TopOfRows() - kGap;
-  Place(pnlCartLabels_, kMargin, TopOfRows(), width - 2 * kMargin,
-        HeightOfWholeRows(room, RowHeight()));
-  LayOutRows(ToTwips(pnlCartLabels_->width()), ToTwips(pnlCartLabels_->height()),
-             pnlCartLabels_->ButtonWidth());
+  const int rows = HeightOfWholeRows(GivenTwips(room), RowHeight());
+  Place(pnlCartLabels_, kMargin, TopOfRows(), width - 2 * kMargin, TableTwips(rows));
+  LayOutRows(GivenTwips(ToTwips(pnlCartLabels_->width())), rows, pnlCartLabels_->ButtonWidth());
 }
 
 void frmCartBrowser::LayOutBar(int top, int width) {

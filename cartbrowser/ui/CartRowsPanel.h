@@ -68,7 +68,7 @@ class CartRowsPanel : public QFrame {
   bool marked_ = false;  // a row, since one was last told
   bool told_ = false;
   QPointer<QWidget> toldRow_;  // the last one that was
-  int turned_ = 0;  // by the wheel, what is not a whole row yet
+  int turned_ = 0;             // by the wheel, what is not a whole row yet
 };
 
 }  // namespace logchecker

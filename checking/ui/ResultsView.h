@@ -51,7 +51,6 @@ class ResultsView : public QTreeView, public RowChooser {
   void rowChosen();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -67,6 +66,7 @@ class ResultsView : public QTreeView, public RowChooser {
     int Sum() const;
   };
 
+  void TakeTextSize();
   void MeasureTexts();
   std::vector<int> WidthsIn(const QFont& font, bool twoLines) const;
   void UseFace(const QFont& font);

@@ -75,8 +75,8 @@ class AccessibleCell : public PartOfView,
     state.focusable = true;
     state.extSelectable = view_->selectionMode() == QAbstractItemView::ExtendedSelection;
     state.selected = isSelected();
-    state.focused = view_->hasFocus() && view_->currentIndex().row() == row_ &&
-                    parent()->focusChild() == this;
+    state.focused =
+        view_->hasFocus() && view_->currentIndex().row() == row_ && parent()->focusChild() == this;
     return state;
   }
 

@@ -29,8 +29,7 @@ QString PageOf(const QWidget* widget) {
 }
 
 void Tell(const QString& words) {
-  Ui().Show(
-      {FromQString(words), MessageIcon::kInformation, MessageButtons::kOk, kProgramTitle});
+  Ui().Show({FromQString(words), MessageIcon::kInformation, MessageButtons::kOk, kProgramTitle});
 }
 
 class GuideKey : public QObject {

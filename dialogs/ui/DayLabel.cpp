@@ -9,7 +9,8 @@ namespace {
 
 class AccessibleDay : public QAccessibleWidget {
  public:
-  explicit AccessibleDay(DayLabel* day) : QAccessibleWidget(day, QAccessible::ListItem), day_(*day) {}
+  explicit AccessibleDay(DayLabel* day)
+      : QAccessibleWidget(day, QAccessible::ListItem), day_(*day) {}
 
   // A label without a day is a gap in the calendar, which is nothing to hear of.
   QAccessible::State state() const override {

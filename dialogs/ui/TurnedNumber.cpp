@@ -31,9 +31,8 @@ class AccessibleNumber : public QAccessibleWidget, public QAccessibleValueInterf
   void setCurrentValue(const QVariant& value) override {
     const int wanted = qRound(value.toDouble());
     if (!widget()->isEnabled()) return;
-    Guarded([&] {
-      number_.TurnTo(std::clamp(wanted, number_.LeastNumber(), number_.MostNumber()));
-    });
+    Guarded(
+        [&] { number_.TurnTo(std::clamp(wanted, number_.LeastNumber(), number_.MostNumber())); });
   }
 
  private:

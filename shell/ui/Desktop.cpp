@@ -34,7 +34,8 @@ Trial& TheTrial() {
 }
 
 bool IsTrial(int argc, char** argv) {
-  return std::any_of(argv + 1, argv + argc, [](const char* word) { return word == std::string(kTry); });
+  return std::any_of(argv + 1, argv + argc,
+                     [](const char* word) { return word == std::string(kTry); });
 }
 
 // Before the toolkit takes its own out of them.

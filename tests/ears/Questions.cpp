@@ -1,5 +1,5 @@
-// Asks one question in each of the ways in which the input box can, and prints the answers. No program
-// of the system asks any.
+// Asks one question in each of the ways in which the input box can, and prints the answers. No
+// program of the system asks any.
 #include <QApplication>
 #include <cstdio>
 
@@ -26,8 +26,8 @@ int main(int argc, char** argv) {
   Print(AskForOneOf(nullptr, "Which one in order?", items, true));
   const std::optional<size_t> row = logchecker::AskForRow(nullptr, "Which row?", items);
   std::printf("%zu\n", row.value_or(0));
-  for (const size_t picked : logchecker::AskForRows(nullptr, "Which rows?", items).value_or(
-           std::vector<size_t>())) {
+  for (const size_t picked :
+       logchecker::AskForRows(nullptr, "Which rows?", items).value_or(std::vector<size_t>())) {
     std::printf("%zu ", picked);
   }
   std::printf("\n");
