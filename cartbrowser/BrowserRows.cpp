@@ -86,6 +86,8 @@ BrowserRow ReadBrowserRow(int32_t cartNumber, bool onThreeLines, int32_t panelWi
   row.ForeColor = info.ForeColor;
   row.Spoken = SpokenRow(info, cartNumber);
   row.Caption = PanelCaption(info, onThreeLines, panelWidth, fit);
+  row.Whole = PanelCaption(info, onThreeLines, panelWidth,
+                           [](const std::string& text, int32_t /*maxWidth*/) { return text; });
   return row;
 }
 

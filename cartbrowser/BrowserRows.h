@@ -44,6 +44,7 @@ struct BrowserRow {
   int32_t BackColor = 0;  // of the panel; 0x00BBGGRR, or a system colour with the top bit set
   int32_t ForeColor = 0;
   std::string Caption;  // of the panel; plain text, lines ended by a line feed
+  std::string Whole;    // the caption as it would be without an edge
   std::string Spoken;   // for those who can't see it: the number, and the cart's lines in full
 };
 

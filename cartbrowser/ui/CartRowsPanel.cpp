@@ -8,6 +8,7 @@
 #include "cartbrowser/BrowserRows.h"
 #include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowWidgets.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -28,7 +29,7 @@ QFont CartRowFont() {
   // The width of a text is then the sum of its characters' widths.
   font.setKerning(false);
   font.setStyleStrategy(QFont::PreferNoShaping);
-  const int room = ToPixels(kDoubleRowHeight) / kLinesOfDoubleRow;
+  const int room = ToPixels(TableTwips(kDoubleRowHeight)) / kLinesOfDoubleRow;
   int size = QFontInfo(font).pixelSize();
   do {
     font.setPixelSize(size);
@@ -48,7 +49,7 @@ CartRowsPanel::CartRowsPanel(CartBrowser& browser, QWidget* parent)
 int CartRowsPanel::ButtonWidth() const {
   const auto digits = static_cast<qsizetype>(CartBrowser::JumpTextMaxLength());
   const int text = QFontMetrics(font()).horizontalAdvance(QString(digits, '0'));
-  return std::max(kLeastButtonWidth, ToTwips(text) + kButtonMargins);
+  return std::max(kLeastButtonWidth, GivenTwips(ToTwips(text)) + kButtonMargins);
 }
 
 // A wheel without notches, or a pad, turns by parts of a row.
@@ -82,11 +83,13 @@ void CartRowsPanel::ShowRow(int16_t row) {
   const QString number = ToQString(shown.ButtonCaption);
   widgets.button->setText(number);
   widgets.button->SetColour(shown.ButtonColour);
-  widgets.button->setGeometry(ToPixels(place.ButtonLeft), ToPixels(place.Top),
-                              ToPixels(ButtonWidth()), ToPixels(place.Height));
+  const int top = ToPixels(TableTwips(place.Top));
+  const int height = ToPixels(TableTwips(place.Top + place.Height)) - top;
+  const int panelLeft = ToPixels(TableTwips(place.PanelLeft));
+  widgets.button->setGeometry(ToPixels(TableTwips(place.ButtonLeft)), top,
+                              ToPixels(TableTwips(ButtonWidth())), height);
   widgets.panel->Show(shown);
-  widgets.panel->setGeometry(ToPixels(place.PanelLeft), ToPixels(place.Top),
-                             ToPixels(place.PanelWidth), ToPixels(place.Height));
+  widgets.panel->setGeometry(panelLeft, top, ToPixels(TableTwips(place.PanelWidth)), height);
   widgets.button->setVisible(shown.Visible);
   widgets.panel->setVisible(shown.Visible);
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "cartbrowser/ui/FoundCartsModel.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/ReportList.h"
@@ -43,10 +44,11 @@ void FoundCartsView::SetSearch(FindCart& search) {
 }
 
 void FoundCartsView::SetColumnWidths(int listWidth) {
-  const auto headers = FoundColumnHeaders(listWidth);
+  const auto headers = FoundColumnHeaders(GivenTwips(listWidth));
   for (size_t column = 0; column < headers.size(); ++column) {
     if (headers[column].width == 0) continue;
-    setColumnWidth(static_cast<int>(column), std::max(ToPixels(headers[column].width), 1));
+    setColumnWidth(static_cast<int>(column),
+                   std::max(ToPixels(TableTwips(headers[column].width)), 1));
   }
 }
 

@@ -46,6 +46,8 @@ class frmSelectHour : public QDialog {
 
  private:
   void Connect();
+  void ColourCalendar();
+  void FitTextSize();
   void BecomeActive();
   void TakeTag();
   void TakePresentTime();
@@ -56,6 +58,7 @@ class frmSelectHour : public QDialog {
   void OnCancel();
   void Leave(const std::string& tag);
   DayLabel* LabelOfDay(int16_t label) const;
+  QLabel* LabelOfWeekday(int weekday) const;
   DayLabel* LabelOfMarkedDay() const;
   void SetDayLook(int16_t label, bool reverse);
   bool FilterDayScroll(QEvent* event);

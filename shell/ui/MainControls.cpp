@@ -41,6 +41,7 @@ void frmMain::BuildToolbar() {
     button->setAutoRaise(true);
     button->setToolTip(tip);
     button->setAccessibleName(caption);
+    button->setAccessibleDescription(QString("%1. Key: %2").arg(tip, key));
     // A click leaves the focus where the user works.
     button->setFocusPolicy(Qt::TabFocus);
     auto* label = new ClickableLabel;

@@ -38,7 +38,6 @@ class LogGridView : public QTableView, public RowChooser, public LogGridObserver
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
-  bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
@@ -49,8 +48,10 @@ class LogGridView : public QTableView, public RowChooser, public LogGridObserver
   void FitFont();
   void OnScrolled(int value);
   void ShowMiss();
+  void Describe();
 
   LogGrid& grid_;
+  QString miss_;  // what the selection stands in for, in words; empty where it is a hit
   LogGridModel* model_;
   bool following_ = false;  // the view is being brought in line with the grid
   bool pressed_ = false;    // a click has begun
