@@ -28,7 +28,7 @@ class NoRegistry : public RegistryCalls {
 void UseNoRegistry() {
   static NoRegistry registry;
   const Platform& os = Os();
-  static Platform without = {os.files, os.directories, os.shell,  os.profiles,  registry,
+  static Platform without = {os.files, os.directories, os.shell,  os.profiles, registry,
                              os.clock, os.waveDevices, os.system, os.processes};
   UsePlatform(without);
 }

@@ -35,8 +35,7 @@ bool KeepsF1(const QWidget* widget) {
 }
 
 void Tell(const QString& words) {
-  Ui().Show(
-      {FromQString(words), MessageIcon::kInformation, MessageButtons::kOk, kProgramTitle});
+  Ui().Show({FromQString(words), MessageIcon::kInformation, MessageButtons::kOk, kProgramTitle});
 }
 
 class GuideKey : public QObject {
@@ -68,8 +67,8 @@ QString GuideFile(const QString& page) {
 
 void OpenGuide(const QWidget* from) {
   const QWidget* found = WidgetWithPage(from);
-  const QString file =
-      GuideFile(found == nullptr ? QString(kGuideTasks) : found->property(kPageProperty).toString());
+  const QString file = GuideFile(found == nullptr ? QString(kGuideTasks)
+                                                  : found->property(kPageProperty).toString());
   Guarded([&file] {
     if (!QFileInfo::exists(file)) {
       Tell("The guide is not there: it should lie in\n" + file +

@@ -76,7 +76,8 @@ void SaveDialog::FilterBy(const QString& pattern) {
     selectNameFilter(*offered);
     return;
   }
-  // The toolkit takes brackets for the ends of the pattern, and blanks for the ends of one of several.
+  // The toolkit takes brackets for the ends of the pattern, and blanks for the ends of one of
+  // several.
   QString taken = pattern;
   for (const QChar mark : QString("() ")) taken.replace(mark, '?');
   const QString typed = pattern + " (" + taken + ")";

@@ -16,6 +16,7 @@
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
+#include "common/ui/VisibleFocus.h"
 #include "platform/StationText.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
@@ -34,7 +35,8 @@ Trial& TheTrial() {
 }
 
 bool IsTrial(int argc, char** argv) {
-  return std::any_of(argv + 1, argv + argc, [](const char* word) { return word == std::string(kTry); });
+  return std::any_of(argv + 1, argv + argc,
+                     [](const char* word) { return word == std::string(kTry); });
 }
 
 // Before the toolkit takes its own out of them.
@@ -83,6 +85,7 @@ int RunDesktop(int argc, char** argv, const WriteMadeUpStation& write) {
   HoldButtonRules();
   HoldGuideKey();
   HoldCutTextTips();
+  HoldVisibleFocus();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   int result = kEndedAtStart;

@@ -25,10 +25,9 @@ class GuideTest : public WindowTest {
 };
 
 TEST_F(GuideTest, EachPageThatAWindowLeadsToIsThere) {
-  for (const char* page :
-       {kGuideTasks, kGuideCheckDay, kGuideWhy, kGuideBreak, kGuideLoadDay, kGuideSaveAndPrint,
-        kGuideSetUp, kGuideCarts, kGuideSplit, kGuideBrowser, kGuideSearch, kGuideNotes,
-        kGuideTrouble, kGuideKeys}) {
+  for (const char* page : {kGuideTasks, kGuideCheckDay, kGuideWhy, kGuideBreak, kGuideLoadDay,
+                           kGuideSaveAndPrint, kGuideSetUp, kGuideCarts, kGuideSplit, kGuideBrowser,
+                           kGuideSearch, kGuideNotes, kGuideTrouble, kGuideKeys}) {
     EXPECT_TRUE(QFile::exists(GuideFile(page))) << page;
   }
 }

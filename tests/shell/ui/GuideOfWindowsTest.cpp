@@ -54,9 +54,8 @@ TEST_F(GuideOfWindowsTest, EachWindowLeadsToItsOwn) {
     DialogScript script(opens(kGuideCarts));
     Entry("mnuCartLocations")->trigger();
   }
-  QTimer::singleShot(0, main.get(), [&] {
-    opens(kGuideSetUp)(main->findChild<frmGeneralSettings*>());
-  });
+  QTimer::singleShot(0, main.get(),
+                     [&] { opens(kGuideSetUp)(main->findChild<frmGeneralSettings*>()); });
   Entry("mnuSettingsGeneral")->trigger();
 }
 
