@@ -66,7 +66,7 @@ CartPanel::CartPanel(CartBrowser& browser, int16_t row, QWidget* parent)
 
 void CartPanel::Show(const BrowserRow& row) {
   shown_ = row;
-  setAccessibleName(ToQString(row.Caption).replace('\n', ", "));
+  setAccessibleName(ToVisibleQString(row.Spoken));
   const bool cut = row.Whole.size() > row.Caption.size();
   setToolTip(cut ? AsToolTip(ToVisibleQString(row.Whole)) : QString());
   update();

@@ -74,6 +74,7 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
   void ConnectControls();
   void DoubleChanged();
   void SetTabOrder();
+  void HoldLeastSize();
   void SetSizes();
   // All in twips.
   int ControlsHeight() const;

@@ -38,9 +38,7 @@ frmFindCart::frmFindCart(QWidget* parent)
   new KeyPreview(*this, [this](const QKeyEvent& key) { return OnKey(key); });
   Load();
   OpenAnimation();
-  const QMargins margins = layout()->contentsMargins();
-  const int width = std::max(this->width(), layout()->minimumSize().width());
-  ui_->lviewItems->SetColumnWidths(ToTwips(width - margins.left() - margins.right()));
+  FitTextSize();
   frmFindCart::ShowControls();
 }
 
@@ -67,8 +65,15 @@ void frmFindCart::FillLists() {
   ui_->tabFind->setAccessibleDescription("Key: Ctrl+Tab");
   ui_->cmdFind->setAccessibleDescription("Key: Enter");
   ui_->cmdStop->setAccessibleDescription("Key: Escape");
+}
+
+void frmFindCart::FitTextSize() {
   const QLineEdit& box = *ui_->mskLength;
   ui_->mskLength->setMaximumWidth(box.fontMetrics().horizontalAdvance("00:00") + kLengthMargins);
+  layout()->invalidate();
+  const QMargins margins = layout()->contentsMargins();
+  const int width = std::max(this->width(), layout()->minimumSize().width());
+  ui_->lviewItems->SetColumnWidths(ToTwips(width - margins.left() - margins.right()));
 }
 
 void frmFindCart::OpenAnimation() {
@@ -139,7 +144,14 @@ bool frmFindCart::OnKey(const QKeyEvent& key) {
 bool frmFindCart::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) ShowHeight();  // by now the frame is there
   if (event->type() == QEvent::ApplicationPaletteChange) ColourBoxes();
-  return QDialog::event(event);
+  const bool taken = QDialog::event(event);
+  // By now the controls have the font.
+  if (event->type() == QEvent::ApplicationFontChange) {
+    FitTextSize();
+    shownHeight_ = 0;
+    ShowHeight();
+  }
+  return taken;
 }
 
 void frmFindCart::showEvent(QShowEvent* event) {

@@ -40,6 +40,7 @@ class frmFindCart : public QDialog, private FindCartFace, public FindCart {
   void Hide() override;
 
   void FillLists();
+  void FitTextSize();
   void ConnectControls();
   void OpenAnimation();
   void OnFind();

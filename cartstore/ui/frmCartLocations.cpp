@@ -13,6 +13,7 @@
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
+#include "common/ui/LeastWidth.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
 #include "dialogs/ui/BrowseForFolder.h"
@@ -23,6 +24,8 @@
 namespace logchecker {
 
 namespace {
+
+constexpr int kLeastWidth = 560;  // pixels
 
 std::string TrimmedUpper(const std::string& text) { return ToUpper(Trim(text)); }
 
@@ -36,6 +39,7 @@ frmCartLocations::frmCartLocations(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmCartLocations>()) {
   ui_->setupUi(this);
   SetGuidePage(*this, kGuideCarts);
+  HoldLeastWidth(*this, kLeastWidth);
   connect(ui_->chkUseOneCartLocation, &QCheckBox::toggled, this,
           [this](bool one) { OnOneLocation(one); });
   for (int16_t part = 1; part <= kAudiowallParts; ++part) {

@@ -8,13 +8,14 @@
 #include <vector>
 
 #include "common/ListView.h"
+#include "common/ui/AccessibleTable.h"
 #include "common/ui/ListViewModel.h"
 
 namespace logchecker {
 
 class CompactHeader;
 
-class ResultsView : public QTreeView {
+class ResultsView : public QTreeView, public RowChooser {
   Q_OBJECT
 
  public:
@@ -42,14 +43,17 @@ class ResultsView : public QTreeView {
   // width.
   void FitColumns();
 
+  void MakeRowCurrent(int row) override;
+  void ChooseRow(int row) override;
+
  signals:
   // A single click in the list, or Enter in it.
   void rowChosen();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:
@@ -62,6 +66,7 @@ class ResultsView : public QTreeView {
     int Sum() const;
   };
 
+  void TakeTextSize();
   void MeasureTexts();
   std::vector<int> WidthsIn(const QFont& font, bool twoLines) const;
   void UseFace(const QFont& font);

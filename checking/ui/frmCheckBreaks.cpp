@@ -15,7 +15,7 @@
 #include "common/PathText.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"
-#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
@@ -37,6 +37,7 @@ constexpr int kListTop = 660;
 constexpr int kProgressHeight = 240;
 
 constexpr int kIconPixels = 17;
+constexpr int kSmallestHeading = 9;  // pixels
 
 }  // namespace
 
@@ -123,6 +124,11 @@ void frmCheckBreaks::Load(const QSize& clientArea) {
   Ui().Yield();
 }
 
+void frmCheckBreaks::changeEvent(QEvent* event) {
+  ChildWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitTexts();
+}
+
 QWidget* frmCheckBreaks::FirstControl() { return lvwResults_; }
 
 void frmCheckBreaks::LayOut() {
@@ -145,9 +151,14 @@ void frmCheckBreaks::LayOut() {
 // The heading takes a smaller font where it would not fit, and the panel's words stand in one line
 // where there is room for it.
 void frmCheckBreaks::FitTexts() {
+  const auto fits = [this] {
+    return Label1_->heightForWidth(Label1_->width()) <= Label1_->height();
+  };
   Label1_->setFont(font());
-  if (Label1_->heightForWidth(Label1_->width()) > Label1_->height()) {
-    Label1_->setFont(CompactFont());
+  QFont smaller = CompactFont();
+  for (int size = smaller.pixelSize(); !fits() && size >= kSmallestHeading; --size) {
+    smaller.setPixelSize(size);
+    Label1_->setFont(smaller);
   }
   auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
   const int room = picNoResults_->width() - ToPixels(4 * kButtonSize);
@@ -188,6 +199,9 @@ void frmCheckBreaks::ShowOutcome() {
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);
   if (check_.picNoResultsVisible) picNoResults_->raise();
+  // The list has the focus, whatever lies over it.
+  const auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
+  lvwResults_->setAccessibleName(check_.picNoResultsVisible ? words->text() : Label1_->text());
   // Esc, the arrows and Enter are for the outcome, whichever control asked for the check.
   lvwResults_->setFocus();
 }

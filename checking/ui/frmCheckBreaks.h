@@ -48,6 +48,7 @@ class frmCheckBreaks : public ChildWindow {
  protected:
   void LayOut() override;
   QWidget* FirstControl() override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildControls();

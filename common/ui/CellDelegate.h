@@ -6,12 +6,6 @@
 
 namespace logchecker {
 
-// The font of such tables: the program's own, made smaller until a time of day fits its column,
-// since the columns' widths are given.
-QFont CompactFont();
-// What a row of that font takes, in pixels.
-int CompactRowHeight();
-
 // What is left free on each side of a cell's text, in pixels: less in a narrower face.
 int CellMargin(const QFontMetrics& metrics);
 

@@ -26,6 +26,7 @@
 #include "common/ui/Twips.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "shell/LoadLogs.h"
+#include "shell/ui/ScreenFit.h"
 #include "shell/ui/frmGeneralSettings.h"
 #include "shell/ui/frmSplash.h"
 #include "splitlogs/SplitLogTable.h"
@@ -39,9 +40,6 @@ namespace {
 
 constexpr int kLeastHeight = 3000;  // twips
 constexpr QSize kDesignSize{1180, 760};
-// What a window manager may draw around the window; it does not say before the window is shown.
-constexpr QSize kRoomForFrame{16, 48};
-
 }  // namespace
 
 frmMain::frmMain() : area_(new QMdiArea) {
@@ -70,13 +68,16 @@ frmMain::frmMain() : area_(new QMdiArea) {
   };
   step(Qt::Key_F8, MismatchStep::kNext);
   step(Qt::SHIFT | Qt::Key_F8, MismatchStep::kPrevious);
-  QSize size = kDesignSize;
-  if (const QScreen* screen = QApplication::primaryScreen()) {
-    size = size.boundedTo(screen->availableSize() - kRoomForFrame);
-  }
-  resize(size);
-  gSplits.SetFactory([this] {
+  const QSize room = ScreenFit::RoomOn(*screen());
+  resize(kDesignSize.boundedTo(room));
+  // The windows of the splits were arranged in the frame as it was.
+  connect(new ScreenFit(*this), &ScreenFit::firstSizeFitted, this, [this] {
+    if (StartupComplete) TileChildren();
+  });
+  gSplits.SetFactory([this, room] {
     auto split = std::make_unique<frmSplit>();
+    // On the smallest of screens one is wider than the frame can be, which would stop the program.
+    if (split->width() > room.width()) split->resize(room.width(), split->height());
     area_->addSubWindow(split.get());
     split->hide();
     return split;

@@ -12,6 +12,7 @@
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
+#include "common/ui/LeastWidth.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -26,6 +27,8 @@ namespace logchecker {
 
 namespace {
 
+constexpr int kLeastWidth = 520;  // pixels
+
 std::string TextOf(const QLineEdit* box) { return FromQString(box->text()); }
 
 }  // namespace
@@ -34,6 +37,7 @@ frmLogFileSettings::frmLogFileSettings(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLogFileSettings>()) {
   ui_->setupUi(this);
   SetGuidePage(*this, kGuideSplit);
+  HoldLeastWidth(*this, kLeastWidth);
   ConnectFields();
   SetSplitNumberLabel("1");
 }
