@@ -24,6 +24,7 @@
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
+#include "common/ui/VisibleFocus.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
 #include "platform/StationText.h"
@@ -177,6 +178,7 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   HoldButtonRules();
   HoldGuideKey();
   HoldCutTextTips();
+  HoldVisibleFocus();
   return Run(arguments, parts);
 }
 

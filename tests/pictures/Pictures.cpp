@@ -25,6 +25,7 @@
 #include "common/GeneralSettings.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
+#include "common/ui/VisibleFocus.h"
 #include "dialogs/ui/frmGoodInputBox.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "notes/ui/frmPrintPreview.h"
@@ -283,6 +284,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setStyle("Fusion");
   QApplication::setQuitOnLastWindowClosed(false);
+  logchecker::HoldVisibleFocus();
   if (argc != 2) {
     std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
     return 2;

@@ -364,6 +364,7 @@ TEST_F(ResultsTest, EverythingHasANameAndTheButtonsTheirTips) {
   EXPECT_EQ(Button("cmdSave")->accessibleName(), "Save");
   EXPECT_EQ(Button("cmdPrint")->accessibleName(), "Print");
   ExpectEverythingNamed(window);
+  ExpectFocusSeen(window);
 }
 
 }  // namespace

@@ -136,6 +136,7 @@ TEST_F(AboutTest, AboutStaysUntilOkIsPressedAndIsNotModal) {
     EXPECT_FALSE(about->isModal());
     EXPECT_EQ(Control<QLabel>(about, "lblCurrentAction")->text(), "");
     ExpectEverythingNamed(about);
+    ExpectFocusSeen(about);
     auto* ok = Control<QPushButton>(about, "cmdOK");
     EXPECT_TRUE(ok->isVisible());
     EXPECT_EQ(ok->text(), "OK");
