@@ -10,6 +10,7 @@
 
 #include "common/ListView.h"
 #include "splitlogs/BreakTimeIndex.h"
+#include "splitlogs/GridCell.h"
 #include "splitlogs/GridRows.h"
 #include "splitlogs/TextPool.h"
 
@@ -38,7 +39,8 @@ struct AdvertCells {
   std::string_view description;
   std::string_view reference;
   int32_t cart = 0;
-  std::string_view length;
+  std::optional<float> length;  // seconds; "--:--" without
+  bool hundredths = false;      // whether the length shows them
   int32_t lengthColour = kGridOwnColour;
 };
 
@@ -65,10 +67,12 @@ class LogGrid {
   std::string_view Text(int32_t row, int32_t column) const {
     RequireRow(row);
     RequireColumn(column);
-    return texts_.Text(At(row).texts[static_cast<size_t>(column)]);
+    return At(row).cells[static_cast<size_t>(column)].Text(texts_);
   }
   void SetText(int32_t row, int32_t column, std::string_view text);
-  // Does what setting each of the cells by itself would do.
+  // The same with the text of a length in seconds.
+  void SetLength(int32_t row, int32_t column, float seconds, bool hundredths);
+  // Does what setting the text of each of the cells by itself would do.
   void SetAdvert(int32_t row, const AdvertCells& cells);
   int32_t BackColour(int32_t row, int32_t column) const;
 
@@ -123,7 +127,7 @@ class LogGrid {
  private:
   // What is read of a cell's text again and again is kept in step with the text.
   struct GridRow {
-    std::array<PooledText, kLogColumns> texts;
+    mutable std::array<GridCell, kLogColumns> cells;
     int32_t cart = 0;
     bool isAdvert = false;
   };
@@ -144,7 +148,7 @@ class LogGrid {
   void TellSelection();
 
   GridRows<GridRow> rows_;
-  TextPool texts_;
+  mutable TextPool texts_;
   BreakTimeIndex times_;
   // By column and row; the rows that are not there yet have none of their own.
   std::array<std::vector<int32_t>, kLogColumns> backColours_;
