@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 #include "common/TimeText.h"
@@ -29,6 +30,11 @@ class GridCell {
   std::string_view Text(TextPool& pool) {
     if (held_.size >= kLength) MakeText(pool);
     return pool.Text(held_);
+  }
+  bool IsEmpty() const { return held_.size == 0; }
+  // The whole number that the text shows, where it has not been made yet.
+  std::optional<int32_t> Number() const {
+    return held_.size == kNumber ? std::optional(static_cast<int32_t>(held_.place)) : std::nullopt;
   }
 
  private:

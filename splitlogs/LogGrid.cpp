@@ -68,11 +68,8 @@ void LogGrid::RefuseColumn(int32_t column) {
 void LogGrid::SetText(int32_t row, int32_t column, std::string_view text) {
   RequireRow(row);
   RequireColumn(column);
-  GridRow& at = At(row);
   if (column == kTimeColumn) times_.SetTime(row, TimeOfText(text));
-  if (column == kCartColumn) at.cart = ToInt32(Val(text));
-  if (column == kPositionColumn) at.isAdvert = !Trim(text).empty();
-  at.cells[static_cast<size_t>(column)] = GridCell(texts_.Keep(text));
+  At(row).cells[static_cast<size_t>(column)] = GridCell(texts_.Keep(text));
   TellChange();
 }
 
@@ -97,8 +94,6 @@ void LogGrid::SetAdvert(int32_t row, const AdvertCells& cells) {
   at.cells[kPositionColumn] = cells.position <= std::numeric_limits<int32_t>::max()
                                   ? GridCell::OfNumber(static_cast<int32_t>(cells.position))
                                   : GridCell(texts_.Keep(std::to_string(cells.position)));
-  at.cart = cells.cart;
-  at.isAdvert = true;
   SetBackColour(row, kLengthColumn, cells.lengthColour);
   TellChange();
 }
@@ -166,6 +161,14 @@ void LogGrid::SetRedraw(bool redraw) {
   redraw_ = redraw;
   TellChange();
   TellSelection();
+}
+
+bool LogGrid::HasPositionText(int32_t row) const {
+  return !Trim(At(row).cells[kPositionColumn].Text(texts_)).empty();
+}
+
+int32_t LogGrid::CartOfText(int32_t row) const {
+  return ToInt32(Val(At(row).cells[kCartColumn].Text(texts_)));
 }
 
 void LogGrid::TellChange() {

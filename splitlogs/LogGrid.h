@@ -108,12 +108,14 @@ class LogGrid {
   // Whether the row belongs to a break.
   bool IsAdvertRow(int32_t row) const {
     RequireRow(row);
-    return At(row).isAdvert;
+    const GridCell& position = At(row).cells[kPositionColumn];
+    return !position.IsEmpty() && (position.Number() || HasPositionText(row));
   }
   // The number that column 3 of the row gives, 0 for none.
   int32_t RowCart(int32_t row) const {
     RequireRow(row);
-    return At(row).cart;
+    const std::optional<int32_t> cart = At(row).cells[kCartColumn].Number();
+    return cart ? *cart : CartOfText(row);
   }
   // The time that column 0 of the row gives, in seconds: whole minutes, 0 for an empty cell.
   float RowTime(int32_t row) const {
@@ -125,15 +127,14 @@ class LogGrid {
   int32_t FirstRowAtOrAfter(float seconds) const { return times_.FirstAtOrAfter(seconds); }
 
  private:
-  // What is read of a cell's text again and again is kept in step with the text.
   struct GridRow {
     mutable std::array<GridCell, kLogColumns> cells;
-    int32_t cart = 0;
-    bool isAdvert = false;
   };
 
   GridRow& At(int32_t row) { return rows_[static_cast<size_t>(row)]; }
   const GridRow& At(int32_t row) const { return rows_[static_cast<size_t>(row)]; }
+  bool HasPositionText(int32_t row) const;
+  int32_t CartOfText(int32_t row) const;
   void SetHeadings();
   void SetBackColour(int32_t row, int32_t column, int32_t colour);
   void RequireRow(int32_t row) const {
