@@ -180,9 +180,8 @@ int32_t FileTable::GetRecord(int16_t number, int64_t recordNumber, void* record)
   const Slot* slot = OpenSlot(number, HostMode::kRandom);
   if (slot == nullptr) return kBadFileNumber;
   if (recordNumber < 1) return kInvalidCall;
-  size_t got = 0;
   return slot->file->ReadAt((recordNumber - 1) * slot->recordLength, record,
-                            static_cast<size_t>(slot->recordLength), &got);
+                            static_cast<size_t>(slot->recordLength), nullptr);
 }
 
 int32_t FileTable::PutRecord(int16_t number, int64_t recordNumber, const void* record) {

@@ -20,7 +20,8 @@ class HostFile {
  public:
   virtual ~HostFile() = default;
 
-  // Reads up to `size` bytes from `offset` (from 0); *got is less only at the end of the file.
+  // Reads up to `size` bytes from `offset` (from 0); *got is less only at the end of the file, and
+  // nullptr serves where that does not matter.
   virtual int32_t ReadAt(int64_t offset, void* data, size_t size, size_t* got) = 0;
   virtual int32_t WriteAt(int64_t offset, const void* data, size_t size) = 0;
   // Adds behind what is there. For kAppend and kReplace.
