@@ -20,11 +20,15 @@ function(add_wine_test target)
   run_in_wine(${target})
 endfunction()
 
-# Windows are worked with the system's own platform plugin, on a screen that no other program draws on.
+# add_wine_window_test(TARGET [RUNNER]): windows are worked with the system's own platform plugin, on a screen
+# that no other program draws on.
 function(add_wine_window_test target)
+  set(runners on_screen.py ${ARGN})
+  list(GET runners -1 runner)
   add_dependencies(${target} windows_runtime)
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR
-    "python3;${CMAKE_CURRENT_SOURCE_DIR}/support/wine/on_screen.py;${CMAKE_CROSSCOMPILING_EMULATOR}")
+    "python3;${CMAKE_CURRENT_SOURCE_DIR}/support/wine/${runner};${CMAKE_CROSSCOMPILING_EMULATOR}")
   add_test(NAME ${target} COMMAND ${target})
-  run_in_wine(${target} "QT_QPA_PLATFORM=windows")
+  # Wine keeps the toolkit's own variables to itself, unless they come so.
+  run_in_wine(${target} "WINEQT_QPA_PLATFORM=windows")
 endfunction()
