@@ -62,7 +62,7 @@ void DrawnPrinterDialog::TakeLastPrinter() {
   bool last = false;
   if (gLastPrinter && !gLastPrinter->file.isEmpty()) {
     ui_->printers->setCurrentIndex(ui_->printers->count() - 1);
-    ui_->filename->setText(QDir::toNativeSeparators(gLastPrinter->file));
+    ui_->filename->setText(gLastPrinter->file);
     last = true;
   } else if (gLastPrinter) {
     const int index = ui_->printers->findText(gLastPrinter->name);
@@ -70,7 +70,11 @@ void DrawnPrinterDialog::TakeLastPrinter() {
     if (last) ui_->printers->setCurrentIndex(index);
   }
   TakePrinter();
-  if (last) printer()->setPageLayout(gLastPrinter->layout);
+  if (!last) return;
+  // Margins that the queue can't have would keep the paper from it.
+  printer()->setPageSize(gLastPrinter->layout.pageSize());
+  printer()->setPageOrientation(gLastPrinter->layout.orientation());
+  printer()->setPageLayout(gLastPrinter->layout);
 }
 
 // A queue comes with its own paper.
@@ -138,7 +142,7 @@ void DrawnPrinterDialog::accept() {
   if (IsFile() && !FileIsGood()) return;
   if (IsFile()) {
     const QPageLayout paper = printer()->pageLayout();
-    printer()->setOutputFileName(QDir::fromNativeSeparators(ui_->filename->text()));
+    printer()->setOutputFileName(ui_->filename->text());
     // Another end of the name than that of a PDF file makes no other file of it.
     printer()->setOutputFormat(QPrinter::PdfFormat);
     printer()->setPageLayout(paper);

@@ -20,6 +20,8 @@ class OpenQueue {
     std::wstring name = queue.toStdWString();
     if (!OpenPrinterW(name.data(), &handle_, nullptr)) {
       code_ = GetLastError();
+      // A call that failed must not pass for a success.
+      if (code_ == ERROR_SUCCESS) code_ = ERROR_INVALID_PRINTER_NAME;
       handle_ = nullptr;
     }
   }
@@ -35,6 +37,7 @@ class OpenQueue {
   template <typename See>
   void EachJob(const See& see) const {
     constexpr DWORD kAll = 0xFFFF;
+    if (handle_ == nullptr) return;
     DWORD size = 0;
     DWORD count = 0;
     EnumJobsW(handle_, 0, kAll, 1, nullptr, 0, &size, &count);

@@ -1,8 +1,8 @@
 // The report on a real queue of a real print scheduler.
+#include <QAbstractPrintDialog>
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -12,9 +12,9 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
+#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 #include "tests/support/ui/posix/FullDisk.h"
-#include "tests/support/ui/posix/PrintQueue.h"
 
 namespace logchecker {
 namespace {
@@ -28,7 +28,7 @@ class QueueTest : public ResultsTest {
       PickQueue(dialog, PrintQueue::kName);
       Control<QSpinBox>(dialog, "copies")->setValue(copies);
       if (pick) pick(dialog);
-      qobject_cast<QPrintDialog*>(dialog)->accept();
+      qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
     });
     if (properties) script.Then(properties);
     window->PrintDetails();
