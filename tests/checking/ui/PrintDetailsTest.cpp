@@ -143,7 +143,8 @@ TEST_F(PrintDetailsTest, PaperAndOrientationAreThoseThatWerePicked) {
     properties->accept();
   });
   window->PrintDetails();
-  EXPECT_TRUE(OutputOfProgram("pdfinfo", {pdf}).contains(QRegularExpression("Page size: +842 x 595")))
+  EXPECT_TRUE(
+      OutputOfProgram("pdfinfo", {pdf}).contains(QRegularExpression("Page size: +842 x 595")))
       << OutputOfProgram("pdfinfo", {pdf}).toStdString();
 }
 

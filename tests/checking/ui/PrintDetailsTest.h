@@ -1,8 +1,8 @@
 // The report of the results window on paper, which is a PDF file.
 #pragma once
 
+#include <QAbstractPrintDialog>
 #include <QFile>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QString>
 #include <optional>
@@ -19,7 +19,7 @@ class PrintDetailsTest : public ResultsTest {
 
   // The real dialog, answered with a PDF file, so many copies, and all rows or the selection.
   void AnswerDialog(QDialog* dialog, int copies, std::optional<bool> selection) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     ASSERT_NE(printer, nullptr);
     EXPECT_EQ(printer->windowTitle(), "Print Check Split Times");
     presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
@@ -33,7 +33,7 @@ class PrintDetailsTest : public ResultsTest {
   // Past the dialog's own test of the folder.
   void PrintPastTheDialogsTests(int copies) {
     DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
+      auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
       printer->printer()->setOutputFileName(pdf);
       printer->printer()->setCopyCount(copies);
       printer->done(QDialog::Accepted);

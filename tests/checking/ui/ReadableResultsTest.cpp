@@ -1,6 +1,6 @@
 // That every text of the results can be read, on the screen and on paper.
+#include <QAbstractPrintDialog>
 #include <QHeaderView>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QScrollBar>
 

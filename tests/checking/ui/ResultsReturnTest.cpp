@@ -1,6 +1,6 @@
 // Return on the buttons of the results window.
+#include <QAbstractPrintDialog>
 #include <QFileDialog>
-#include <QPrintDialog>
 
 #include "tests/checking/ui/ResultsTest.h"
 
@@ -27,7 +27,7 @@ TEST_F(ResultsReturnTest, ReturnPressesTheButtonThatHasTheFocus) {
     press("cmdSave");
   }
   DialogScript script([this](QDialog* dialog) {
-    EXPECT_NE(qobject_cast<QPrintDialog*>(dialog), nullptr);
+    EXPECT_NE(qobject_cast<QAbstractPrintDialog*>(dialog), nullptr);
     EXPECT_TRUE(dialog->parentWidget() != nullptr &&
                 dialog->parentWidget()->window() == window->window());
     dialog->reject();

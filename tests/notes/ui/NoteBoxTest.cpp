@@ -444,7 +444,8 @@ TEST_F(NoteBoxTest, NothingIsDrawnAboveAPagesEdge) {
   ASSERT_GT(Pages(), 1);
   for (const char* page : {"1", "2"}) {
     const QString stem = Pdf() + ".page";
-    OutputOfProgram("pdftoppm", {"-r", "72", "-f", page, "-l", page, "-singlefile", "-png", Pdf(), stem});
+    OutputOfProgram("pdftoppm",
+                    {"-r", "72", "-f", page, "-l", page, "-singlefile", "-png", Pdf(), stem});
     const QImage picture = QImage(stem + ".png").convertToFormat(QImage::Format_Grayscale8);
     ASSERT_FALSE(picture.isNull());
     const auto isWhite = [&](int from, int to) {

@@ -1,6 +1,6 @@
 // Return in the viewer.
+#include <QAbstractPrintDialog>
 #include <QFileDialog>
-#include <QPrintDialog>
 #include <QPushButton>
 
 #include "notes/ui/frmPrintPreview.h"
@@ -37,7 +37,7 @@ TEST_F(PreviewReturnTest, ReturnPressesTheButtonThatHasTheFocus) {
   }
   {
     DialogScript script([this](QDialog* dialog) {
-      EXPECT_NE(qobject_cast<QPrintDialog*>(dialog), nullptr);
+      EXPECT_NE(qobject_cast<QAbstractPrintDialog*>(dialog), nullptr);
       EXPECT_EQ(dialog->parentWidget(), &preview);
       dialog->reject();
     });

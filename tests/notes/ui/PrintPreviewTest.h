@@ -1,6 +1,7 @@
 // The window that shows a note, prints it and saves a copy.
 #pragma once
 
+#include <QAbstractPrintDialog>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
@@ -8,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -46,7 +46,7 @@ class PrintPreviewTest : public WindowTest {
     const QString pdf = QString::fromStdString(ToHostPath(folder().Path()) + "/out.pdf");
     QFile::remove(pdf);
     DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
+      auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
       ASSERT_NE(printer, nullptr);
       presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
       auto* printers = Control<QComboBox>(printer, "printers");

@@ -52,7 +52,8 @@ class ReportTest : public WindowTest {
     return printed;
   }
   int Pages() const {
-    const auto match = QRegularExpression("Pages:\\s+(\\d+)").match(OutputOfProgram("pdfinfo", {pdf}));
+    const auto match =
+        QRegularExpression("Pages:\\s+(\\d+)").match(OutputOfProgram("pdfinfo", {pdf}));
     return match.captured(1).toInt();
   }
   QStringList TextOfPages() const {
@@ -62,8 +63,8 @@ class ReportTest : public WindowTest {
   }
   QImage Picture(int page, int dotsPerInch) const {
     const QString stem = folderOfPages.filePath("page");
-    OutputOfProgram("pdftoppm", {"-r", QString::number(dotsPerInch), "-f", QString::number(page), "-l",
-                     QString::number(page), "-singlefile", "-png", pdf, stem});
+    OutputOfProgram("pdftoppm", {"-r", QString::number(dotsPerInch), "-f", QString::number(page),
+                                 "-l", QString::number(page), "-singlefile", "-png", pdf, stem});
     return QImage(stem + ".png").convertToFormat(QImage::Format_Grayscale8);
   }
 

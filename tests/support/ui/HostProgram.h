@@ -6,8 +6,8 @@
 
 namespace logchecker {
 
-// What a program prints, with the arguments as they are; those that are whole paths name the same file
-// for it.
+// What a program prints, with the arguments as they are; those that are whole paths name the same
+// file for it.
 QString OutputOfProgram(const QString& program, const QStringList& arguments);
 
 }  // namespace logchecker

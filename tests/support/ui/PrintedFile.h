@@ -1,9 +1,9 @@
 // What a printer dialog is answered with: a PDF file, which can be read again.
 #pragma once
 
+#include <QAbstractPrintDialog>
 #include <QComboBox>
 #include <QLineEdit>
-#include <QPrintDialog>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QString>
@@ -18,7 +18,7 @@ namespace logchecker {
 // neither of the two what is preset stays.
 inline void AnswerWithFile(QDialog* dialog, const QString& pdf, int copies = 1,
                            std::optional<bool> selection = std::nullopt) {
-  auto* printer = qobject_cast<QPrintDialog*>(dialog);
+  auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
   ASSERT_NE(printer, nullptr);
   auto* printers = Control<QComboBox>(printer, "printers");
   printers->setCurrentIndex(printers->count() - 1);  // the PDF file

@@ -1,8 +1,8 @@
 // The report on a real queue of a real print scheduler.
+#include <QAbstractPrintDialog>
 #include <QDir>
 #include <QImage>
 #include <QLineEdit>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -12,9 +12,9 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
-#include "tests/support/ui/posix/FullDisk.h"
-#include "tests/support/ui/posix/PrintQueue.h"
+#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
+#include "tests/support/ui/posix/FullDisk.h"
 
 namespace logchecker {
 namespace {
@@ -28,7 +28,7 @@ class QueueTest : public ResultsTest {
       PickQueue(dialog, PrintQueue::kName);
       Control<QSpinBox>(dialog, "copies")->setValue(copies);
       if (pick) pick(dialog);
-      qobject_cast<QPrintDialog*>(dialog)->accept();
+      qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
     });
     if (properties) script.Then(properties);
     window->PrintDetails();
@@ -93,16 +93,16 @@ TEST_F(QueueTest, AQueueThatIsGoneByThenIsSaid) {
 
 // In points.
 QSizeF SizeOfPage(const QString& pdf) {
-  const auto match =
-      QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)").match(OutputOfProgram("pdfinfo", {pdf}));
+  const auto match = QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)")
+                         .match(OutputOfProgram("pdfinfo", {pdf}));
   return {match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
 
 // The longest straight black line down the first page, in points.
 int RuleLength(const QString& pdf) {
   const QTemporaryDir folder;
-  OutputOfProgram("pdftoppm",
-           {"-r", "72", "-f", "1", "-singlefile", "-gray", "-png", pdf, folder.filePath("page")});
+  OutputOfProgram("pdftoppm", {"-r", "72", "-f", "1", "-singlefile", "-gray", "-png", pdf,
+                               folder.filePath("page")});
   const QImage page(folder.filePath("page.png"));
   int longest = 0;
   for (int x = 0; x < page.width(); ++x) {

@@ -1,11 +1,11 @@
 // A note on a real queue of a real print scheduler.
+#include <QAbstractPrintDialog>
 #include <QCheckBox>
-#include <QPrintDialog>
 #include <QPushButton>
 #include <QSpinBox>
 
 #include "notes/ui/frmPrintPreview.h"
-#include "tests/support/ui/posix/PrintQueue.h"
+#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 
 namespace logchecker {
@@ -26,7 +26,7 @@ class NoteQueueTest : public WindowTest {
       Control<QSpinBox>(dialog, "copies")->setValue(2);
       Control<QCheckBox>(dialog, "collate")->setChecked(collated);
       Control<QRadioButton>(dialog, "noDuplex")->click();
-      qobject_cast<QPrintDialog*>(dialog)->accept();
+      qobject_cast<QAbstractPrintDialog*>(dialog)->accept();
     });
     Control<QPushButton>(&preview, "cmdPrint")->click();
     EXPECT_TRUE(ui.messages.empty()) << ui.messages[0].text;

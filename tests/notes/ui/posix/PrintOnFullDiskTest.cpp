@@ -9,7 +9,7 @@ TEST_F(PrintPreviewTest, AFullDiskIsSaid) {
   Open(Path("note.rtf"));
   folder().WriteFile("out.pdf", "old");
   DialogScript script([&](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
+    auto* printer = qobject_cast<QAbstractPrintDialog*>(dialog);
     printer->printer()->setOutputFileName(HostName("out.pdf"));
     printer->done(QDialog::Accepted);
   });

@@ -22,10 +22,10 @@ struct FolderWatch::Watch {
 };
 
 FolderWatch::FolderWatch(const QString& folder) : watch_(std::make_unique<Watch>()) {
-  watch_->folder = CreateFileW(folder.toStdWString().c_str(), FILE_LIST_DIRECTORY,
-                               FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                               OPEN_EXISTING,
-                               FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OVERLAPPED, nullptr);
+  watch_->folder =
+      CreateFileW(folder.toStdWString().c_str(), FILE_LIST_DIRECTORY,
+                  FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
+                  FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OVERLAPPED, nullptr);
   watch_->asked.hEvent = CreateEventW(nullptr, TRUE, FALSE, nullptr);
   watch_->Ask();
 }
@@ -47,8 +47,8 @@ int FolderWatch::Arrivals(const QString& name) {
     for (DWORD at = 0; at < length;) {
       const auto* event =
           reinterpret_cast<const FILE_NOTIFY_INFORMATION*>(watch_->events.data() + at);
-      const bool arrived = event->Action == FILE_ACTION_ADDED ||
-                           event->Action == FILE_ACTION_RENAMED_NEW_NAME;
+      const bool arrived =
+          event->Action == FILE_ACTION_ADDED || event->Action == FILE_ACTION_RENAMED_NEW_NAME;
       const auto characters = static_cast<qsizetype>(event->FileNameLength / sizeof(wchar_t));
       if (arrived && QString::fromWCharArray(event->FileName, characters) == name) ++arrivals;
       if (event->NextEntryOffset == 0) break;
