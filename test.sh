@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Builds and runs all tests. With an option, one of the other checks:
-#   --windows    the plain tests, cross-built for Windows and run under Wine
+#   --windows    the tests, cross-built for Windows and run under Wine
 #   --sanitize   the tests with the address and undefined-behaviour sanitizers
 #   --pages      logcheck's pages, looked at in a browser
 #   --lint       format, clang-tidy, includes, the order of the rooms, and the table of rules

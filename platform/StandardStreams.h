@@ -12,6 +12,10 @@ namespace logchecker {
 // end.
 void HoldStandardStreams();
 
+// Called before it by a program with windows. Where the system gives such a program no console, what
+// it writes goes to that of the program which started it, unless it was given streams.
+void JoinConsole();
+
 // Writes bytes as they are, with no change of line ends. False when not all could be written.
 bool WriteStandardOutput(std::string_view bytes);
 bool StandardOutputIsTerminal();

@@ -7,6 +7,7 @@
 #include "shell/LoadLogs.h"
 
 int main(int argc, char** argv) {
+  logchecker::JoinConsole();
   logchecker::HoldStandardStreams();
   logchecker::EndWithoutTemporaryFiles();
   return logchecker::RunCartBrowser(

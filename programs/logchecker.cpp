@@ -8,6 +8,7 @@
 #include "shell/ui/Desktop.h"
 
 int main(int argc, char** argv) {
+  logchecker::JoinConsole();
   logchecker::HoldStandardStreams();
   logchecker::EndWithoutTemporaryFiles();
   return logchecker::RunDesktop(argc, argv, [](const std::string& folder) {

@@ -47,9 +47,9 @@ test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidchec
   libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
   fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils
   at-spi2-core dbus python3-pyatspi)
-windows_packages=("${plain_packages[@]}" librsvg2-bin g++-mingw-w64-x86-64-posix wine64 googletest python3
-  python3-markdown)
 windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
+windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3
+  python3-markdown xvfb fonts-wine fonts-liberation fonts-dejavu-core poppler-utils cups)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)
@@ -85,6 +85,10 @@ need_page_tools() {
 build() {
   local preset=$1
   shift
+  if [ "$preset" = windows ]; then
+    LOGCHECKER_WINDOWS_QT=$(scripts/windows-qt.sh)
+    export LOGCHECKER_WINDOWS_QT
+  fi
   local launcher=()
   command -v ccache >/dev/null 2>&1 && launcher=(-DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
   if [ ! -f "build/$preset/build.ninja" ]; then

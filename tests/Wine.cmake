@@ -5,14 +5,26 @@
 # print scheduler of this system is none of the tests'.
 set(wine_home "${PROJECT_BINARY_DIR}/wine-home")
 file(MAKE_DIRECTORY "${wine_home}")
-set(wine_environment "WINEPREFIX=${PROJECT_BINARY_DIR}/wine" "HOME=${wine_home}"
-  "XDG_CONFIG_HOME=${wine_home}" "XDG_DATA_HOME=${wine_home}" "WINEDEBUG=-all"
-  "WINEDLLOVERRIDES=winemenubuilder.exe,mscoree,mshtml=" "LC_ALL=C.UTF-8" "CUPS_SERVER=/nowhere")
+set(wine_environment "HOME=${wine_home}" "XDG_CONFIG_HOME=${wine_home}" "XDG_DATA_HOME=${wine_home}"
+  "WINEDEBUG=-all" "WINEDLLOVERRIDES=winemenubuilder.exe,mscoree,mshtml=" "LC_ALL=C.UTF-8"
+  "CUPS_SERVER=/nowhere")
 
-# run_in_wine(TEST [VARIABLE=VALUE...]): one at a time, since they share a registry.
+# run_on_wine_machine(TEST MACHINE [VARIABLE=VALUE...]): one test at a time on a machine, since they share its
+# registry. There are two machines, so that two processors have work.
+function(run_on_wine_machine test machine)
+  set_tests_properties(${test} PROPERTIES RESOURCE_LOCK ${machine} TIMEOUT 300
+    ENVIRONMENT "${wine_environment};WINEPREFIX=${PROJECT_BINARY_DIR}/${machine};${ARGN}")
+endfunction()
+
+# run_in_wine(TEST [VARIABLE=VALUE...]): without windows.
 function(run_in_wine test)
-  set_tests_properties(${test} PROPERTIES
-    ENVIRONMENT "${wine_environment};${ARGN}" RESOURCE_LOCK wine TIMEOUT 300)
+  run_on_wine_machine(${test} wine ${ARGN})
+endfunction()
+
+# Wine keeps the toolkit's own variables to itself, unless they come so.
+function(run_in_wine_with_windows test)
+  run_on_wine_machine(${test} wine-windows "WINEQT_QPA_PLATFORM=windows" ${ARGN})
+  set_tests_properties(${test} PROPERTIES FIXTURES_REQUIRED wine_windows)
 endfunction()
 
 function(add_wine_test target)
@@ -29,6 +41,10 @@ function(add_wine_window_test target)
   set_target_properties(${target} PROPERTIES CROSSCOMPILING_EMULATOR
     "python3;${CMAKE_CURRENT_SOURCE_DIR}/support/wine/${runner};${CMAKE_CROSSCOMPILING_EMULATOR}")
   add_test(NAME ${target} COMMAND ${target})
-  # Wine keeps the toolkit's own variables to itself, unless they come so.
-  run_in_wine(${target} "WINEQT_QPA_PLATFORM=windows")
+  run_in_wine_with_windows(${target})
 endfunction()
+
+add_test(NAME wine.windows COMMAND python3 "${CMAKE_CURRENT_SOURCE_DIR}/support/wine/prefix.py"
+  "${CMAKE_CROSSCOMPILING_EMULATOR}")
+run_on_wine_machine(wine.windows wine-windows)
+set_tests_properties(wine.windows PROPERTIES FIXTURES_SETUP wine_windows)

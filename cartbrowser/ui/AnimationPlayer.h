@@ -1,4 +1,5 @@
-// What plays a film: the toolkit's multimedia where the build has it, else nothing.
+// What plays a film: Windows itself, elsewhere the toolkit's multimedia where the build has it,
+// else nothing.
 #pragma once
 
 #include <QImage>

@@ -25,6 +25,9 @@ bool WriteWhole(int descriptor, std::string_view bytes) {
 
 }  // namespace
 
+// A program with windows has the streams of any other.
+void JoinConsole() {}
+
 // The system gives out the lowest number that is free, so the stream that is missing is the one
 // that each open fills. Opened for reading alone, it refuses what is written; a report that nobody
 // can read must not count as written.

@@ -27,6 +27,24 @@ bool IsTerminal(DWORD stream) {
 
 }  // namespace
 
+// Standard input stays away: two programs would share what is typed.
+void JoinConsole() {
+  const auto given = [](DWORD stream) {
+    const HANDLE handle = GetStdHandle(stream);
+    return handle != nullptr && handle != INVALID_HANDLE_VALUE;
+  };
+  const bool output = given(STD_OUTPUT_HANDLE);
+  const bool error = given(STD_ERROR_HANDLE);
+  if ((output && error) || !AttachConsole(ATTACH_PARENT_PROCESS)) return;
+  for (const DWORD stream : {STD_OUTPUT_HANDLE, STD_ERROR_HANDLE}) {
+    if (stream == STD_OUTPUT_HANDLE ? output : error) continue;
+    const HANDLE console =
+        CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                    nullptr, OPEN_EXISTING, 0, nullptr);
+    if (console != INVALID_HANDLE_VALUE) SetStdHandle(stream, console);
+  }
+}
+
 // A number that stands for nothing can become that of the next file which is opened, and what is
 // meant for the stream would go there. No stream at all fails for good.
 void HoldStandardStreams() {
