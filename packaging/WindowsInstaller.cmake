@@ -1,0 +1,67 @@
+# The installer: the programs and what they need beside them, the documents as pages, the sample station, and the
+# licences of all that. windows/NSIS.template.in is what it does.
+
+list(APPEND CMAKE_MODULE_PATH "${CMAKE_CURRENT_SOURCE_DIR}/windows")
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/windows/files.cmake")
+set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+set(CPACK_LOGCHECKER_INSTALLER "${CMAKE_CURRENT_SOURCE_DIR}/windows")
+set(CPACK_LOGCHECKER_STRIP "${CMAKE_STRIP}")
+set(CPACK_LOGCHECKER_ICON /tmp/wininst/icon.ico)
+
+include(WindowsRuntime)
+add_dependencies(package_files logchecker cartbrowser)
+install(TARGETS logcheck logchecker cartbrowser DESTINATION . COMPONENT installer)
+install(FILES "${PROJECT_SOURCE_DIR}/programs/find.avi" nightly/logcheck-task.xml
+  DESTINATION . COMPONENT installer)
+install_windows_runtime(. COMPONENT installer)
+
+# The documents, the manual pages and what has changed, for a browser.
+find_program(LOGCHECKER_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
+set(pages "${CMAKE_CURRENT_BINARY_DIR}/pages")
+set(page_sources ${documents} "${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md")
+list(FILTER page_sources INCLUDE REGEX "\\.md$")
+foreach(program logcheck logchecker cartbrowser)
+  list(APPEND page_sources "${PROJECT_SOURCE_DIR}/docs/man/${program}.1")
+endforeach()
+add_custom_command(OUTPUT "${pages}/guide.html" DEPENDS ${page_sources} windows/pages.py
+  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${pages}"
+  COMMAND "${LOGCHECKER_SYSTEM_PYTHON}" "${CMAKE_CURRENT_SOURCE_DIR}/windows/pages.py" "${pages}" ${page_sources})
+add_custom_target(document_pages DEPENDS "${pages}/guide.html")
+add_dependencies(package_files document_pages)
+install(DIRECTORY "${pages}/" DESTINATION docs COMPONENT installer)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION docs COMPONENT installer)
+install(FILES "${PROJECT_SOURCE_DIR}/docs/logcheck.schema.json" DESTINATION docs COMPONENT installer)
+
+# The sample station.
+set(CPACK_LOGCHECKER_STATION velmar)
+set(CPACK_LOGCHECKER_SAMPLE "sample/${CPACK_LOGCHECKER_STATION}")
+set(sample "${CMAKE_CURRENT_BINARY_DIR}/${CPACK_LOGCHECKER_SAMPLE}")
+add_custom_command(OUTPUT "${sample}/SAMPLE.TXT" DEPENDS logcheck windows/sample.cmake
+  COMMAND "${CMAKE_COMMAND}" "-DLOGCHECK=${CMAKE_CROSSCOMPILING_EMULATOR};$<TARGET_FILE:logcheck>"
+    "-DPREFIX=${PROJECT_BINARY_DIR}/wine" "-DSAMPLE=${sample}"
+    -P "${CMAKE_CURRENT_SOURCE_DIR}/windows/sample.cmake" VERBATIM)
+add_custom_target(sample_station DEPENDS "${sample}/SAMPLE.TXT")
+add_dependencies(package_files sample_station)
+install(DIRECTORY "${sample}" DESTINATION sample COMPONENT installer)
+
+# The licences, with the place that the sources are to be had from.
+function(source_package result package)
+  execute_process(COMMAND dpkg-query -W "-f=\${source:Package} \${source:Version}" ${package}
+    OUTPUT_VARIABLE source COMMAND_ERROR_IS_FATAL ANY)
+  set(${result} "${source}" PARENT_SCOPE)
+endfunction()
+source_package(qt_source qt6-base-dev)
+source_package(gcc_source gcc-mingw-w64-base)
+source_package(mingw_source mingw-w64-common)
+configure_file(windows/SOURCES.txt.in SOURCES.txt @ONLY NEWLINE_STYLE CRLF)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/SOURCES.txt" "${PROJECT_SOURCE_DIR}/scripts/windows-qt.sh"
+  DESTINATION licences COMPONENT installer)
+function(install_licence file name)
+  install(FILES "${file}" DESTINATION licences RENAME "${name}" COMPONENT installer)
+endfunction()
+install_licence("${PROJECT_SOURCE_DIR}/LICENSE" LICENSE.txt)
+install_licence(/usr/share/common-licenses/LGPL-3 LGPL-3.txt)
+install_licence(/usr/share/common-licenses/GPL-3 GPL-3.txt)
+install_licence(/usr/share/doc/qt6-base-dev/copyright Qt.txt)
+install_licence(/usr/share/doc/gcc-mingw-w64-base/copyright GCC.txt)
+install_licence(/usr/share/doc/mingw-w64-common/copyright MinGW-w64.txt)
