@@ -19,6 +19,6 @@ set(icons "${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor")
 install(FILES "${PROJECT_SOURCE_DIR}/common/ui/icons/program.svg" DESTINATION "${icons}/scalable/apps"
   RENAME org.logchecker.LogChecker.svg COMPONENT desktop)
 foreach(size 16 24 32 48 64 128 256)
-  install(FILES "icons/${size}.png" DESTINATION "${icons}/${size}x${size}/apps"
+  install(FILES "${PROJECT_BINARY_DIR}/common/ui/icons/program/${size}.png" DESTINATION "${icons}/${size}x${size}/apps"
     RENAME org.logchecker.LogChecker.png COMPONENT desktop)
 endforeach()

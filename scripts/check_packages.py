@@ -103,8 +103,8 @@ def check_depends(headless, desktop):
         sys.exit(f"logchecker-headless does not depend on libc6: {depends}")
     depends = field(desktop, "Depends")
     version = field(headless, "Version")
-    for library in (f"logchecker-headless (= {version})", "libqt6widgets6", "libqt6svg6", "libcups2",
-                    "libasound2", "libc6"):
+    for library in (f"logchecker-headless (= {version})", "libqt6widgets6", "libcups2", "libasound2",
+                    "libc6"):
         if library not in depends:
             sys.exit(f"logchecker does not depend on {library}: {depends}")
 
