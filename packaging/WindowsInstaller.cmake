@@ -3,17 +3,26 @@
 
 list(APPEND CMAKE_MODULE_PATH "${CMAKE_CURRENT_SOURCE_DIR}/windows")
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/windows/files.cmake")
+set(CPACK_NSIS_COMPRESSOR "/SOLID lzma")
 set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_LOGCHECKER_INSTALLER "${CMAKE_CURRENT_SOURCE_DIR}/windows")
 set(CPACK_LOGCHECKER_STRIP "${CMAKE_STRIP}")
-set(CPACK_LOGCHECKER_ICON /tmp/wininst/icon.ico)
 
-include(WindowsRuntime)
 add_dependencies(package_files logchecker cartbrowser)
 install(TARGETS logcheck logchecker cartbrowser DESTINATION . COMPONENT installer)
 install(FILES "${PROJECT_SOURCE_DIR}/programs/find.avi" nightly/logcheck-task.xml
   DESTINATION . COMPONENT installer)
 install_windows_runtime(. COMPONENT installer)
+
+# Its icon, of the pictures that the program's own is drawn to.
+find_program(CONVERT_PROGRAM convert REQUIRED)
+set(CPACK_LOGCHECKER_ICON "${CMAKE_CURRENT_BINARY_DIR}/installer.ico")
+set(pictures 256.png 48.png 32.png 16.png)
+list(TRANSFORM pictures PREPEND "${PROJECT_BINARY_DIR}/common/ui/icons/program/")
+add_custom_command(OUTPUT "${CPACK_LOGCHECKER_ICON}" DEPENDS logchecker
+  COMMAND "${CONVERT_PROGRAM}" ${pictures} "${CPACK_LOGCHECKER_ICON}")
+add_custom_target(installer_icon DEPENDS "${CPACK_LOGCHECKER_ICON}")
+add_dependencies(package_files installer_icon)
 
 # The documents, the manual pages and what has changed, for a browser.
 find_program(LOGCHECKER_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
