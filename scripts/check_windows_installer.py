@@ -90,7 +90,8 @@ class Machine:
     def server(self, option):
         """Ends what runs there, or waits until nothing does."""
         server = shutil.which("wineserver") or pathlib.Path(self.wine).resolve().with_name("wineserver64")
-        subprocess.run([server, option], env=self.desk.environment, check=False, timeout=120)
+        subprocess.run([server, option], env=self.desk.environment, check=False, timeout=120,
+                       stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
     def run(self, *command, status=0):
         print(command, round(__import__("time").time()-T0,1), flush=True)
