@@ -1,4 +1,4 @@
-#include "tests/support/ui/PrintQueue.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 
 #include <cups/cups.h>
 #include <gtest/gtest.h>

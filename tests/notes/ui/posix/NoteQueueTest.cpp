@@ -5,8 +5,8 @@
 #include <QSpinBox>
 
 #include "notes/ui/frmPrintPreview.h"
-#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 
 namespace logchecker {
 namespace {

@@ -1,4 +1,4 @@
-#include "printing/ui/PrinterDialog.h"
+#include "printing/ui/ToolkitPrinterDialog.h"
 
 #include <QAbstractButton>
 #include <QChildEvent>
@@ -6,11 +6,21 @@
 #include <QDialogButtonBox>
 #include <QLineEdit>
 
+#include "common/ui/Guide.h"
+
 namespace logchecker {
 
-PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner)
+std::unique_ptr<QAbstractPrintDialog> MakePrinterDialog(QPrinter* printer,
+                                                        const PrinterQuestion& question,
+                                                        QWidget* owner) {
+  return std::make_unique<ToolkitPrinterDialog>(printer, question, owner);
+}
+
+ToolkitPrinterDialog::ToolkitPrinterDialog(QPrinter* printer, const PrinterQuestion& question,
+                                           QWidget* owner)
     : QPrintDialog(printer, owner), withheld_(new QWidget(this)) {
   setWindowTitle(question.title);
+  SetGuidePage(*this, kGuideSaveAndPrint);
   withheld_->hide();
   TakeLastPrinter();
   if (auto* file = findChild<QLineEdit*>("filename")) file->installEventFilter(this);
@@ -20,7 +30,7 @@ PrinterDialog::PrinterDialog(QPrinter* printer, const PrinterQuestion& question,
 }
 
 // The toolkit's dialog takes the system's own printer when it is made.
-void PrinterDialog::TakeLastPrinter() {
+void ToolkitPrinterDialog::TakeLastPrinter() {
   if (!gLastPrinter) return;
   if (!gLastPrinter->file.isEmpty()) {
     printer()->setOutputFormat(QPrinter::PdfFormat);
@@ -36,13 +46,13 @@ void PrinterDialog::TakeLastPrinter() {
 }
 
 // The toolkit turns the box for the file's name off for a queue, and leaves the button beside it.
-void PrinterDialog::OfferFileWithItsBox() {
+void ToolkitPrinterDialog::OfferFileWithItsBox() {
   auto* browse = findChild<QWidget*>("fileBrowser");
   const auto* file = findChild<QLineEdit*>("filename");
   if (browse != nullptr && file != nullptr) browse->setEnabled(file->isEnabled());
 }
 
-bool PrinterDialog::IsLastPrinter() const {
+bool ToolkitPrinterDialog::IsLastPrinter() const {
   if (!gLastPrinter) return false;
   const auto* printers = findChild<QComboBox*>("printers");
   if (printers == nullptr) return printer()->printerName() == gLastPrinter->name;
@@ -52,18 +62,18 @@ bool PrinterDialog::IsLastPrinter() const {
 
 // The toolkit goes back to a queue's own paper whenever it looks at the properties, which it also
 // does when nobody opened them.
-void PrinterDialog::accept() {
+void ToolkitPrinterDialog::accept() {
   const bool keepPaper = !paperPicked_ && IsLastPrinter();
   QPrintDialog::accept();
   if (keepPaper) printer()->setPageLayout(gLastPrinter->layout);
 }
 
-void PrinterDialog::childEvent(QChildEvent* event) {
+void ToolkitPrinterDialog::childEvent(QChildEvent* event) {
   if (event->added()) event->child()->installEventFilter(this);
   QPrintDialog::childEvent(event);
 }
 
-bool PrinterDialog::eventFilter(QObject* watched, QEvent* event) {
+bool ToolkitPrinterDialog::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Show && !paperPicked_) {
     if (auto* properties = qobject_cast<QDialog*>(watched)) ShowLastPaper(properties);
   }
@@ -73,7 +83,7 @@ bool PrinterDialog::eventFilter(QObject* watched, QEvent* event) {
   return QPrintDialog::eventFilter(watched, event);
 }
 
-void PrinterDialog::ShowLastPaper(QDialog* properties) {
+void ToolkitPrinterDialog::ShowLastPaper(QDialog* properties) {
   auto* sizes = properties->findChild<QComboBox*>("pageSizeCombo");
   if (sizes == nullptr) return;
   connect(properties, &QDialog::accepted, this, [this] { paperPicked_ = true; });
@@ -84,7 +94,7 @@ void PrinterDialog::ShowLastPaper(QDialog* properties) {
 
 // Pages are picked as a range of them, which serves every printer. What the toolkit offers beside,
 // lists and sets of pages and the last page first, it can't do for a file, or not at all.
-void PrinterDialog::Offer(const PrinterQuestion& question) {
+void ToolkitPrinterDialog::Offer(const PrinterQuestion& question) {
   const bool report = question.kind == JobKind::kReport;
   setOption(QAbstractPrintDialog::PrintSelection);
   setOption(QAbstractPrintDialog::PrintCurrentPage, false);
@@ -101,12 +111,12 @@ void PrinterDialog::Offer(const PrinterQuestion& question) {
 }
 
 // The toolkit shows and reads its controls when it likes, so they must live on, out of sight.
-void PrinterDialog::Withhold(const char* control) {
+void ToolkitPrinterDialog::Withhold(const char* control) {
   if (auto* found = findChild<QWidget*>(control)) found->setParent(withheld_);
 }
 
 // On systems where the toolkit's own dialog has them behind a button.
-void PrinterDialog::ShowOptions() {
+void ToolkitPrinterDialog::ShowOptions() {
   const auto* box = findChild<QDialogButtonBox*>();
   if (box == nullptr) return;
   for (QAbstractButton* button : box->buttons()) {

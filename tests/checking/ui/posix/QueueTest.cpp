@@ -12,9 +12,9 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
-#include "tests/support/ui/FullDisk.h"
-#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
+#include "tests/support/ui/posix/FullDisk.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 
 namespace logchecker {
 namespace {
@@ -93,16 +93,16 @@ TEST_F(QueueTest, AQueueThatIsGoneByThenIsSaid) {
 
 // In points.
 QSizeF SizeOfPage(const QString& pdf) {
-  const auto match =
-      QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)").match(OutputOf("pdfinfo", {pdf}));
+  const auto match = QRegularExpression("Page size: +([0-9.]+) x ([0-9.]+)")
+                         .match(OutputOfProgram("pdfinfo", {pdf}));
   return {match.captured(1).toDouble(), match.captured(2).toDouble()};
 }
 
 // The longest straight black line down the first page, in points.
 int RuleLength(const QString& pdf) {
   const QTemporaryDir folder;
-  OutputOf("pdftoppm",
-           {"-r", "72", "-f", "1", "-singlefile", "-gray", "-png", pdf, folder.filePath("page")});
+  OutputOfProgram("pdftoppm", {"-r", "72", "-f", "1", "-singlefile", "-gray", "-png", pdf,
+                               folder.filePath("page")});
   const QImage page(folder.filePath("page.png"));
   int longest = 0;
   for (int x = 0; x < page.width(); ++x) {
