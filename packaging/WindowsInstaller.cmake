@@ -1,4 +1,4 @@
-# The installer: the programs and what they need beside them, the documents as pages, the sample station, and the
+# The installer: the programs and what they need beside them, the guide, the sample station, and the
 # licences of all that. windows/NSIS.template.in is what it does.
 
 list(APPEND CMAKE_MODULE_PATH "${CMAKE_CURRENT_SOURCE_DIR}/windows")
@@ -8,7 +8,7 @@ set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
 set(CPACK_LOGCHECKER_INSTALLER "${CMAKE_CURRENT_SOURCE_DIR}/windows")
 set(CPACK_LOGCHECKER_STRIP "${CMAKE_STRIP}")
 
-add_dependencies(package_files logchecker cartbrowser)
+add_dependencies(package_files logchecker cartbrowser guide)
 install(TARGETS logcheck logchecker cartbrowser DESTINATION . COMPONENT installer)
 install(FILES "${PROJECT_SOURCE_DIR}/programs/find.avi" nightly/logcheck-task.xml
   DESTINATION . COMPONENT installer)
@@ -24,22 +24,9 @@ add_custom_command(OUTPUT "${CPACK_LOGCHECKER_ICON}" DEPENDS logchecker
 add_custom_target(installer_icon DEPENDS "${CPACK_LOGCHECKER_ICON}")
 add_dependencies(package_files installer_icon)
 
-# The documents, the manual pages and what has changed, for a browser.
-find_program(LOGCHECKER_SYSTEM_PYTHON python3 PATHS /usr/bin NO_DEFAULT_PATH)
-set(pages "${CMAKE_CURRENT_BINARY_DIR}/pages")
-set(page_sources ${documents} "${PROJECT_SOURCE_DIR}/CHANGELOG.md" "${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md")
-list(FILTER page_sources INCLUDE REGEX "\\.md$")
-foreach(program logcheck logchecker cartbrowser)
-  list(APPEND page_sources "${PROJECT_SOURCE_DIR}/docs/man/${program}.1")
-endforeach()
-add_custom_command(OUTPUT "${pages}/guide.html" DEPENDS ${page_sources} windows/pages.py
-  COMMAND "${CMAKE_COMMAND}" -E rm -rf "${pages}"
-  COMMAND "${LOGCHECKER_SYSTEM_PYTHON}" "${CMAKE_CURRENT_SOURCE_DIR}/windows/pages.py" "${pages}" ${page_sources})
-add_custom_target(document_pages DEPENDS "${pages}/guide.html")
-add_dependencies(package_files document_pages)
-install(DIRECTORY "${pages}/" DESTINATION docs COMPONENT installer)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION docs COMPONENT installer)
-install(FILES "${PROJECT_SOURCE_DIR}/docs/logcheck.schema.json" DESTINATION docs COMPONENT installer)
+# The guide lies beside the programs, which open it.
+install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/guide" DESTINATION . COMPONENT installer)
+install(FILES "${PROJECT_SOURCE_DIR}/CHANGELOG.md" DESTINATION . RENAME CHANGELOG.txt COMPONENT installer)
 
 # The sample station.
 set(CPACK_LOGCHECKER_STATION velmar)
@@ -69,6 +56,7 @@ function(install_licence file name)
   install(FILES "${file}" DESTINATION licences RENAME "${name}" COMPONENT installer)
 endfunction()
 install_licence("${PROJECT_SOURCE_DIR}/LICENSE" LICENSE.txt)
+install_licence("${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md" THIRD-PARTY-NOTICES.txt)
 install_licence(/usr/share/common-licenses/LGPL-3 LGPL-3.txt)
 install_licence(/usr/share/common-licenses/GPL-3 GPL-3.txt)
 install_licence(/usr/share/doc/qt6-base-dev/copyright Qt.txt)
