@@ -11,6 +11,8 @@ import re
 import shutil
 import subprocess
 import sys
+import tempfile
+import time
 import urllib.parse
 
 HERE = pathlib.Path(__file__).resolve().parent.parent
@@ -42,11 +44,15 @@ MENU = r"C:\ProgramData\Microsoft\Windows\Start Menu\Programs\Log Checker"
 LONG_PATH = r"%SystemRoot%\system32;%SystemRoot%;" + "".join(rf"C:\Some folder\{n};" for n in range(120))
 
 
+T0 = time.monotonic()
+
+
 def fail(text):
     raise AssertionError(text)
 
 
 def expect(expected, seen, what):
+    print(what, round(time.monotonic() - T0, 1), flush=True)
     if expected != seen:
         fail(f"{what}: {seen!r}, not {expected!r}")
 
@@ -81,23 +87,29 @@ class Machine:
         self.server("-k")
 
     def server(self, option):
-        """Ends what runs there, or waits until nothing does."""
+        """-p has it stay, -k ends it and all that runs there."""
         server = shutil.which("wineserver") or pathlib.Path(self.wine).resolve().with_name("wineserver64")
         subprocess.run([server, option], env=self.desk.environment, check=False, timeout=120,
                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 
+    def tried(self, *command):
+        """Its exit code and what it printed, by a file: what Wine starts beside it would keep a pipe open."""
+        with tempfile.TemporaryFile() as output:
+            done = subprocess.run([self.wine, *map(str, command)], env=self.desk.environment, cwd=self.desk.folder,
+                                  stdin=subprocess.DEVNULL, stdout=output, stderr=output, check=False, timeout=120)
+            output.seek(0)
+            return done.returncode, output.read().decode(errors="replace").replace("\r\n", "\n")
+
     def run(self, *command, status=0):
-        done = subprocess.run([self.wine, *map(str, command)], env=self.desk.environment, cwd=self.desk.folder,
-                              capture_output=True, text=True, check=False, timeout=120)
-        if done.returncode != status:
-            fail(f"{' '.join(map(str, command))} ended with {done.returncode}:\n{done.stdout}{done.stderr}")
-        return done.stdout.replace("\r\n", "\n")
+        code, output = self.tried(*command)
+        if code != status:
+            fail(f"{' '.join(map(str, command))} ended with {code}:\n{output}")
+        return output
 
     def open(self, link):
-        """As the start menu does. What it opens outlives the command, and would keep a pipe of it open."""
+        """As the start menu does."""
         self.desk.seen = set(self.desk.windows())
-        subprocess.run([self.wine, "start", link], env=self.desk.environment, check=True, timeout=120,
-                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.run("start", link)
 
     def batch(self, line, status=0):
         """A line as somebody types it; Wine puts quotes of its own around what is handed over."""
@@ -107,9 +119,8 @@ class Machine:
 
     def value(self, key, name):
         """A text of the registry, or None."""
-        done = subprocess.run([self.wine, "reg", "query", key, "/v", name], env=self.desk.environment,
-                              capture_output=True, text=True, check=False)
-        found = re.search(rf"^    {name}    REG_\w+    (.*?)\r?$", done.stdout, re.MULTILINE)
+        found = re.search(rf"^    {name}    REG_\w+    (.*)$", self.tried("reg", "query", key, "/v", name)[1],
+                          re.MULTILINE)
         return found and found.group(1)
 
     def set_path(self, path):
@@ -119,14 +130,13 @@ class Machine:
         return self.value(ENVIRONMENT, "Path")
 
 
-def package(build, folder, *definitions):
+def package(build, folder):
     """One of the version before, with files that this one no longer has."""
     extra = folder / "extra"
     (extra / "plugins of old").mkdir(parents=True)
     (extra / "plugins of old/old.txt").write_text("of the version before\n", encoding="utf-8")
     shutil.copy(pathlib.Path(build) / "bin/libwinpthread-1.dll", extra / "old.dll")
-    arguments = ["CPACK_PACKAGE_VERSION=0.9.0", f"CPACK_INSTALLED_DIRECTORIES={extra};/", "CPACK_NSIS_COMPRESSOR=zlib",
-                 *definitions]
+    arguments = ["CPACK_PACKAGE_VERSION=0.9.0", f"CPACK_INSTALLED_DIRECTORIES={extra};/", "CPACK_NSIS_COMPRESSOR=zlib"]
     done = subprocess.run(["cpack", "-G", "NSIS", "-B", folder, *[a for d in arguments for a in ("-D", d)]],
                           cwd=build, capture_output=True, text=True, check=False)
     if done.returncode != 0:
@@ -190,7 +200,7 @@ def check_refused(machine, installer):
     before = files_below(machine.folder)
     for said in (machine.run(installer, "/S", status=IN_USE),
                  machine.batch(rf'"{FOLDER}\uninstall.exe" /S _?={FOLDER}', status=IN_USE)):
-        if not re.search(r"\.(exe|dll) is in use\. Nothing was changed\.", said):
+        if rf"{FOLDER}\logchecker.exe is in use. Nothing was changed." not in said:
             fail(f"it does not say what is in use: {said!r}")
     expect(before, files_below(machine.folder), "the files while a program runs")
 
@@ -230,7 +240,7 @@ def check_repair(machine, installer):
 def check_removed(machine, before, path):
     machine.run(rf"{FOLDER}\uninstall.exe", "/S")
     machine.desk.until(lambda: not machine.folder.exists(), "end of the uninstaller")
-    machine.server("-w")
+    machine.server("-k")  # It writes the registry down.
     station = {"windows/VELKLT.INI", "windows/VELMAR.INI", "windows/SAMPLE.TXT"}
     left = {name for name in set(files_below(machine.drive)) - before
             if not re.match(r"windows/(audio|logs)/|users/[^/]*/AppData/Local/Temp/", name)}

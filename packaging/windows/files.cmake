@@ -46,8 +46,12 @@ foreach(folder IN LISTS folders)
   string(APPEND remove "  RMDir \"$INSTDIR\\${folder}\"\n")
 endforeach()
 
+# The programs first: whoever is told what is in use knows these.
+set(libraries ${programs})
+list(FILTER libraries INCLUDE REGEX "\\.dll$")
+list(FILTER programs EXCLUDE REGEX "\\.dll$")
 set(require "")
-foreach(file IN LISTS programs)
+foreach(file IN LISTS programs libraries)
   string(REPLACE "/" "\\" file "${file}")
   string(APPEND require "  StrCpy $0 \"$INSTDIR\\${file}\"\n  Call \${un}RequireFree\n")
 endforeach()
