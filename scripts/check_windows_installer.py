@@ -4,7 +4,6 @@ removes them. Takes the installer, and the build folder that CPack made it from.
 
 import datetime
 import hashlib
-import html
 import os
 import pathlib
 import re
@@ -13,7 +12,6 @@ import subprocess
 import sys
 import tempfile
 import time
-import urllib.parse
 
 HERE = pathlib.Path(__file__).resolve().parent.parent
 sys.path.insert(0, str(HERE / "tests/desktop"))
@@ -160,16 +158,11 @@ def check_binaries(folder):
     expect(needed, {name for name in present if name.endswith(".dll")}, "the libraries")
 
 
-def check_links(folder):
-    for page in folder.glob("*.html"):
-        text = page.read_text(encoding="utf-8")
-        targets = set(re.findall(r'id="([^"]*)"', text))
-        for link in map(html.unescape, re.findall(r'(?:href|src)="([^"]*)"', text)):
-            if re.match("[a-z]+:", link):
-                continue
-            file, _, place = urllib.parse.unquote(link).partition("#")
-            if file and not (folder / file).is_file() or not file and place not in targets:
-                fail(f"{page.name} leads to {link}, which is not there")
+def check_guide(folder):
+    done = subprocess.run([sys.executable, HERE / "tests/documents/guide_pages_test.py", folder],
+                          capture_output=True, text=True, check=False)
+    if done.returncode != 0:
+        fail(done.stdout + done.stderr)
 
 
 def check_installed(machine, version):
@@ -269,7 +262,7 @@ def check(machine, installer, build):
     expect(f"{path};{FOLDER}", machine.path(), "the path")
     check_installed(machine, re.search(r"-([0-9.]+)-windows", installer.name).group(1))
     check_binaries(machine.folder)
-    check_links(machine.folder / "guide")
+    check_guide(machine.folder)
     tomorrow = check_logcheck(machine)
     settings = files_below(machine.drive / "windows")["VELKLT.INI"]
     check_windows(machine, installer, tomorrow)
