@@ -3,8 +3,9 @@
 # windows_runtime copies them into the build's folder of programs, and install_windows_runtime() into an
 # installation.
 
+include_guard(GLOBAL)
 set(windows_runtime_libraries Qt6Core.dll Qt6Gui.dll Qt6PrintSupport.dll Qt6Widgets.dll)
-set(windows_runtime_plugins platforms/qwindows.dll styles/qwindowsvistastyle.dll)
+set(windows_runtime_plugins imageformats/qjpeg.dll platforms/qwindows.dll styles/qwindowsvistastyle.dll)
 set(windows_compiler_libraries libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)
 # The tests of windows need these too.
 set(windows_test_libraries Qt6Test.dll)
