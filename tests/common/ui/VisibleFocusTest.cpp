@@ -16,8 +16,8 @@ class VisibleFocusTest : public WindowTest {
     static const bool held = (HoldVisibleFocus(), true);
     Q_UNUSED(held);
     auto* layout = new QVBoxLayout(&window);
-    for (QWidget* control : {static_cast<QWidget*>(list), static_cast<QWidget*>(lit),
-                             static_cast<QWidget*>(other)}) {
+    for (QWidget* control :
+         {static_cast<QWidget*>(list), static_cast<QWidget*>(lit), static_cast<QWidget*>(other)}) {
       layout->addWidget(control);
     }
     lit->setDefault(true);
