@@ -4,7 +4,12 @@
 list(APPEND CMAKE_MODULE_PATH "${CMAKE_CURRENT_SOURCE_DIR}/windows")
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_SOURCE_DIR}/windows/files.cmake")
 set(CPACK_NSIS_COMPRESSOR "/SOLID lzma")
-set(CPACK_RESOURCE_FILE_LICENSE "${PROJECT_SOURCE_DIR}/LICENSE")
+# A paragraph is one line: the page that shows it breaks lines at its own width.
+file(READ "${PROJECT_SOURCE_DIR}/LICENSE" licence)
+string(REPLACE "\nCopyright" "\n\nCopyright" licence "${licence}")
+string(REGEX REPLACE "([a-z,;])\n([a-zA-Z])" "\\1 \\2" licence "${licence}")
+set(CPACK_RESOURCE_FILE_LICENSE "${CMAKE_CURRENT_BINARY_DIR}/LICENSE.txt")
+file(CONFIGURE OUTPUT "${CPACK_RESOURCE_FILE_LICENSE}" CONTENT "${licence}" @ONLY)
 set(CPACK_LOGCHECKER_INSTALLER "${CMAKE_CURRENT_SOURCE_DIR}/windows")
 set(CPACK_LOGCHECKER_STRIP "${CMAKE_STRIP}")
 
@@ -55,7 +60,7 @@ install(FILES "${CMAKE_CURRENT_BINARY_DIR}/SOURCES.txt" "${PROJECT_SOURCE_DIR}/s
 function(install_licence file name)
   install(FILES "${file}" DESTINATION licences RENAME "${name}" COMPONENT installer)
 endfunction()
-install_licence("${PROJECT_SOURCE_DIR}/LICENSE" LICENSE.txt)
+install_licence("${CPACK_RESOURCE_FILE_LICENSE}" LICENSE.txt)
 install_licence("${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md" THIRD-PARTY-NOTICES.txt)
 install_licence(/usr/share/common-licenses/LGPL-3 LGPL-3.txt)
 install_licence(/usr/share/common-licenses/GPL-3 GPL-3.txt)
