@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -49,6 +50,7 @@ namespace {
 constexpr int32_t kToday = 46401;
 
 constexpr QSize kSmallScreen{1024, 600};
+constexpr QSize kLargeScreen{2560, 1440};
 
 struct Look {
   const char* name;  // behind the pictures' names
@@ -87,6 +89,9 @@ void DrawMain(Painter& painter, QSize size, int splits) {
   painter.Save(window, name + "-checked");
   window.UpdateSplitInfo();
   painter.Save(window, name + "-arranged");
+  if (splits > 1) return;
+  window.findChild<QMdiSubWindow*>("frmSplit")->showMaximized();
+  painter.Save(window, name + "-maximised");
 }
 
 // As wide as the results begin, with more or less room for each split.
@@ -264,7 +269,7 @@ int Draw(const QString& folder) {
     painter.SetTheme(look.name);
     for (const int splits : {1, 2, 4, 10}) {
       DrawMain(painter, {1024, 768}, splits);
-      if (look.palette == QPalette()) DrawMain(painter, {2560, 1440}, splits);
+      if (look.palette == QPalette()) DrawMain(painter, kLargeScreen, splits);
     }
     DrawMain(painter, kSmallScreen, 5);
     DrawResults(painter);

@@ -109,6 +109,15 @@ TEST_P(ContrastTest, TitleBarsOfChildWindows) {
   for (const int16_t inactive : {2, 3}) ExpectReadableBar(Window(inactive));
 }
 
+TEST_P(ContrastTest, ColoursThatChangeWhileTheProgramRuns) {
+  QApplication::setPalette(GetParam() == 1 ? QPalette() : DarkPalette());
+  QCoreApplication::processEvents();
+  ExpectReadableBar(Window(2));
+  for (int16_t n = 1; n <= 3; ++n) Window(n).hide();
+  EXPECT_EQ(MostFrequent(PictureOf(*Area()->viewport(), Area()->viewport()->rect())),
+            QApplication::palette().color(QPalette::Mid).rgb());
+}
+
 TEST_P(ContrastTest, CellsOfTheGridSelectedOrNot) {
   QTableView& grid = Grid(2);
   for (const bool selected : {true, false}) {
