@@ -27,7 +27,7 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
-constexpr int kLeastCharacters = 12;  // of a description, in a large text
+constexpr int kLeastCharacters = 8;  // of a description, in a large text
 
 }  // namespace
 

@@ -16,6 +16,7 @@
 #include <QTreeView>
 #include <cstdio>
 #include <functional>
+#include <vector>
 
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "cartbrowser/ui/frmFindCart.h"
@@ -267,11 +268,13 @@ int Draw(const QString& folder) {
     QApplication::setPalette(look.palette);
     QApplication::setFont(look.font);
     painter.SetTheme(look.name);
-    for (const int splits : {1, 2, 4, 10}) {
+    const bool plain = look.name[0] == 0;
+    for (const int splits : plain ? std::vector{1, 2, 4, 10} : std::vector{1, 10}) {
       DrawMain(painter, {1024, 768}, splits);
-      if (look.palette == QPalette()) DrawMain(painter, kLargeScreen, splits);
+      if (plain) DrawMain(painter, kLargeScreen, splits);
     }
     DrawMain(painter, kSmallScreen, 5);
+    if (look.font != usual) DrawMain(painter, kLargeScreen, 5);
     DrawResults(painter);
     DrawDialogs(painter);
     DrawBrowser(painter);
