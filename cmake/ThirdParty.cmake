@@ -22,7 +22,11 @@ else()
 endif()
 
 if(LOGCHECKER_DESKTOP)
-  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets Svg PrintSupport)
+  if(WIN32 AND NOT LOGCHECKER_WINDOWS_QT)
+    message(FATAL_ERROR "Programs with windows need Qt for Windows: give LOGCHECKER_WINDOWS_QT the folder that "
+      "scripts/windows-qt.sh prints, or build logcheck alone with -DLOGCHECKER_DESKTOP=OFF.")
+  endif()
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
   if(NOT WIN32)
     find_package(Cups REQUIRED)
   endif()

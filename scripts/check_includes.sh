@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Fails when a file of a plain half includes what it does not use. Needs build/debug to be configured.
+# Fails when a file of a plain half includes what it does not use. Needs build/lint to be configured.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -8,7 +8,7 @@ mapfile -t units < <(git ls-files '*.cpp' |
   grep -Ev '/ui/|^platform/windows/')
 found=$(mktemp)
 trap 'rm -f "$found"' EXIT
-iwyu_tool -j "$(nproc)" -p build/debug "${units[@]}" -- \
+iwyu_tool -j "$(nproc)" -p build/lint "${units[@]}" -- \
   -Xiwyu --no_fwd_decls -Xiwyu --cxx17ns -Xiwyu --mapping_file="$PWD/scripts/includes.imp" 2>/dev/null |
   awk '/^\(/ { next } /should remove these lines/ { file = $1 } /^- #include/ { print file ": " $0 }' |
   sed "s,$PWD/,," | sort -u >"$found"

@@ -8,10 +8,12 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -50,6 +52,7 @@ int WishedHeight(const QWidget* control) { return ToTwips(control->sizeHint().he
 
 void frmCartBrowser::MakeControls() {
   setObjectName("frmCartBrowser");
+  SetGuidePage(*this, kGuideBrowser);
   setWindowTitle("Cart Browser");
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
@@ -87,6 +90,21 @@ void frmCartBrowser::MakeControls() {
       "descriptions.");
   chkDouble_->installEventFilter(this);
   cmdCancel_ = Named(new QPushButton("Cancel", this), "cmdCancel");
+  DescribeKeys();
+}
+
+// For those who can't see the page of all keys.
+void frmCartBrowser::DescribeKeys() {
+  txtCartNumber_->setAccessibleDescription(
+      "Keys: Enter goes to that cart, and a second time takes it; Up, Down, Page Up and Page Down "
+      "move; F searches, T shows notes, question mark opens the guide, Escape leaves");
+  cmdJumpCart_->setAccessibleDescription("Keys: Enter, J");
+  cmdFindCart_->setAccessibleDescription("Key: F");
+  cmdSmallScroll_[0]->setAccessibleDescription("Key: Up");
+  cmdSmallScroll_[1]->setAccessibleDescription("Key: Down");
+  cmdBigScroll_[0]->setAccessibleDescription("Key: Page Up");
+  cmdBigScroll_[1]->setAccessibleDescription("Key: Page Down");
+  cmdCancel_->setAccessibleDescription("Key: Escape");
 }
 
 QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* icon,
@@ -104,6 +122,11 @@ QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* i
 void frmCartBrowser::ConnectControls() {
   connect(txtCartNumber_, &QLineEdit::textChanged, this,
           [this](const QString& text) { SetJumpText(FromQString(text)); });
+  connect(txtCartNumber_, &QLineEdit::textEdited, this, [this] {
+    if (!pnlCartLabels_->IsTold()) return;
+    pnlCartLabels_->StopTelling();
+    TellFocus(*txtCartNumber_);
+  });
   connect(cmdJumpCart_, &QPushButton::clicked, this,
           [this] { Guarded([this] { JumpClicked(); }); });
   connect(cmdFindCart_, &QPushButton::clicked, this,

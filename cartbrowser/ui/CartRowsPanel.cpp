@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "cartbrowser/BrowserRows.h"
+#include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowWidgets.h"
 #include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
@@ -37,8 +39,11 @@ QFont CartRowFont() {
 
 CartRowsPanel::CartRowsPanel(CartBrowser& browser, QWidget* parent)
     : QFrame(parent), browser_(browser) {
+  UseAccessibleCartRows();
+  setAccessibleName("Carts");
   setFrameShape(QFrame::Box);
   setFrameShadow(QFrame::Plain);
+  connect(qApp, &QApplication::focusChanged, this, [this] { StopTelling(); });
 }
 
 int CartRowsPanel::ButtonWidth() const {
@@ -77,7 +82,6 @@ void CartRowsPanel::ShowRow(int16_t row) {
   const RowPlace place = browser_.PlaceOf(row);
   const QString number = ToQString(shown.ButtonCaption);
   widgets.button->setText(number);
-  widgets.button->setAccessibleName(QString("Cart %1").arg(number));
   widgets.button->SetColour(shown.ButtonColour);
   const int top = ToPixels(TableTwips(place.Top));
   const int height = ToPixels(TableTwips(place.Top + place.Height)) - top;
@@ -92,7 +96,46 @@ void CartRowsPanel::ShowRow(int16_t row) {
 
 void CartRowsPanel::ShowButtonColour(int16_t row) {
   if (static_cast<size_t>(row) > rows_.size()) return;
-  rows_[static_cast<size_t>(row) - 1].button->SetColour(browser_.Row(row).ButtonColour);
+  const uint32_t colour = browser_.Row(row).ButtonColour;
+  rows_[static_cast<size_t>(row) - 1].button->SetColour(colour);
+  if (colour != kHighlightColour || std::exchange(marked_, true)) return;
+  // Behind what comes with the move, and once for moves that come together.
+  QMetaObject::invokeMethod(
+      this, [this] { TellCurrentRow(); }, Qt::QueuedConnection);
+}
+
+QWidget* CartRowsPanel::RowAt(int index) const {
+  const bool made = index >= 0 && index < RowsInUse() && index < static_cast<int>(rows_.size());
+  return made ? rows_[static_cast<size_t>(index)].panel : nullptr;
+}
+
+int CartRowsPanel::IndexOf(const QWidget* row) const {
+  const auto* panel = qobject_cast<const CartPanel*>(row);
+  return panel != nullptr && panel->Row() <= RowsInUse() ? panel->Row() - 1 : -1;
+}
+
+bool CartRowsPanel::IsCurrent(const QWidget* row) const {
+  return row != nullptr && row == RowAt(browser_.CurrentRow() - 1);
+}
+
+void CartRowsPanel::MakeCurrent(const QWidget* row) {
+  const int index = IndexOf(row);
+  if (index < 0) return;
+  Guarded([&] { browser_.MakeRowCurrent(static_cast<int16_t>(index + 1)); });
+}
+
+void CartRowsPanel::Take(const QWidget* row) {
+  const int index = IndexOf(row);
+  if (index < 0) return;
+  Guarded([&] { browser_.ButtonClicked(static_cast<int16_t>(index + 1)); });
+}
+
+void CartRowsPanel::TellCurrentRow() {
+  if (!marked_ || !isVisible() || !isActiveWindow()) return;
+  marked_ = false;
+  told_ = true;
+  QWidget* row = RowAt(browser_.CurrentRow() - 1);
+  TellCartRow(row, std::exchange(toldRow_, row));
 }
 
 }  // namespace logchecker

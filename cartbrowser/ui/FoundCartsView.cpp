@@ -25,6 +25,7 @@ constexpr int kAddedDelay = 50;  // milliseconds
 }  // namespace
 
 FoundCartsView::FoundCartsView(QWidget* parent) : QTreeView(parent) {
+  UseAccessibleTables();
   SetUpReportList(*this);
   setSelectionMode(QAbstractItemView::SingleSelection);
   header()->setSectionsClickable(true);
@@ -116,9 +117,26 @@ void FoundCartsView::ShowSortMark() {
       *column, search_->results().Descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
+void FoundCartsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
+}
+
+void FoundCartsView::MakeRowCurrent(int row) {
+  ShowAddedRows();
+  setCurrentIndex(model_->index(row, kFoundNumber));
+}
+
+void FoundCartsView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  search_->Choose();
+}
+
 void FoundCartsView::selectionChanged(const QItemSelection& selected,
                                       const QItemSelection& deselected) {
-  QTreeView::selectionChanged(selected, deselected);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own tells of hidden columns
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
   if (following_ || search_ == nullptr) return;
   const QScopedValueRollback<bool> following(following_, true);
   const QModelIndexList rows = selectionModel()->selectedRows(kFoundNumber);

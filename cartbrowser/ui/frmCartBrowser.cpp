@@ -16,6 +16,7 @@
 #include "common/FitTextToWidth.h"
 #include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -98,6 +99,7 @@ bool frmCartBrowser::event(QEvent* event) {
     // A number that the user is in the midst of typing stays as it is.
     if (!Activated() || focusWidget() != txtCartNumber_) Guarded([this] { Activate(); });
     KeepFrameOnScreen();
+    pnlCartLabels_->TellCurrentRow();
   }
   const bool taken = QDialog::event(event);
   // By now the controls have the font.
@@ -123,6 +125,8 @@ void frmCartBrowser::showEvent(QShowEvent* event) {
   // The size has its rows already, from the first showing or the last change.
   if (pnlDescription_->isHidden() == ShowDescription) Guarded([this] { LayOut(); });
   Guarded([this] { Activate(); });
+  // Who comes in begins in the box for a number.
+  pnlCartLabels_->ForgetMarks();
 }
 
 void frmCartBrowser::hideEvent(QHideEvent* event) {
@@ -160,6 +164,11 @@ bool frmCartBrowser::eventFilter(QObject* watched, QEvent* event) {
 bool frmCartBrowser::OnKey(const QKeyEvent& key) {
   if (KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier))) return true;
   const char character = CharacterOf(key);
+  // F1 is one of the store's own keys here.
+  if (character == '?') {
+    OpenGuide(this);
+    return true;
+  }
   if (character != 0 && KeyPress(character)) return true;
   return focusWidget() == txtCartNumber_ && TypesACharacter(key) && !JumpBoxTakes(character);
 }

@@ -70,6 +70,7 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
 
   void MakeControls();
   QToolButton* MakeScrollButton(const QString& name, const char* icon, const QString& spoken);
+  void DescribeKeys();
   void ConnectControls();
   void DoubleChanged();
   void SetTabOrder();

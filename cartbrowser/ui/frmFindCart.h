@@ -45,6 +45,7 @@ class frmFindCart : public QDialog, private FindCartFace, public FindCart {
   void OpenAnimation();
   void OnFind();
   bool OnKey(const QKeyEvent& key);
+  bool SortByKey(const QKeyEvent& key);
   void ShowInput();
   void ShowHistory();
   void ShowEnabled();

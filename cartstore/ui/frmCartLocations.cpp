@@ -12,6 +12,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/LeastWidth.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -37,6 +38,7 @@ void DropLastBackslash(std::string& text) {
 frmCartLocations::frmCartLocations(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmCartLocations>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideCarts);
   HoldLeastWidth(*this, kLeastWidth);
   connect(ui_->chkUseOneCartLocation, &QCheckBox::toggled, this,
           [this](bool one) { OnOneLocation(one); });

@@ -37,6 +37,7 @@ constexpr int kWidestHeading = 2;  // times that text
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
+  UseAccessibleTables();
   SetUpReportList(*this);
   setModel(model_);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -68,6 +69,13 @@ std::string ResultsView::KeyOfSelectedRow() const {
   const bool isSelected = selectionModel()->isRowSelected(current, {});
   const auto row = static_cast<size_t>(isSelected ? current : selected.constFirst().row());
   return row < list_.ListItems.size() ? list_.ListItems[row].key : "";
+}
+
+void ResultsView::SelectRow(size_t row) {
+  const QModelIndex index = model_->index(static_cast<int>(row), 0);
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(index);
 }
 
 void ResultsView::ShareColumns(bool keepFirst) {
@@ -206,9 +214,23 @@ void ResultsView::keyPressEvent(QKeyEvent* event) {
   QTreeView::keyPressEvent(event);
 }
 
+void ResultsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
+}
+
+void ResultsView::MakeRowCurrent(int row) { setCurrentIndex(model_->index(row, 0)); }
+
+void ResultsView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit rowChosen();
+}
+
 void ResultsView::selectionChanged(const QItemSelection& selected,
                                    const QItemSelection& deselected) {
-  QTreeView::selectionChanged(selected, deselected);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own counts headings in its own way
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
   const auto mark = [this](const QItemSelection& ranges, bool on) {
     for (const QItemSelectionRange& range : ranges) {
       for (int row = range.top(); row <= range.bottom(); ++row) {

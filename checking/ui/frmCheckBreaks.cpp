@@ -7,14 +7,17 @@
 #include <QShortcut>
 #include <QToolButton>
 #include <utility>
+#include <vector>
 
 #include "checking/ExportFolder.h"
 #include "checking/ExportListViewToCSV.h"
 #include "checking/ui/ResultsView.h"
 #include "common/PathText.h"
+#include "common/TimeText.h"
 #include "common/UserInterface.h"
 #include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
@@ -41,6 +44,7 @@ constexpr int kSmallestHeading = 9;  // pixels
 frmCheckBreaks::frmCheckBreaks(std::function<int32_t()> day)
     : day_(std::move(day)), inner_(new QWidget) {
   setObjectName("frmCheckBreaks");
+  SetGuidePage(*this, kGuideWhy);
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Check Split Times");
   setWindowIcon(IconNamed("check-day"));
@@ -60,6 +64,9 @@ void frmCheckBreaks::BuildControls() {
   lvwResults_ = new ResultsView(check_.lvwResults, inner_);
   lvwResults_->setObjectName("lvwResults");
   lvwResults_->setAccessibleName(Label1_->text());
+  lvwResults_->setAccessibleDescription(
+      "Keys: Enter lines all splits up on the row, F8 and Shift+F8 go to the next and the previous "
+      "one, Escape closes");
   lvwResults_->move(ToPixels(kMargin), ToPixels(kListTop));
   connect(lvwResults_, &ResultsView::rowChosen, this, [this] { OnRowChosen(); });
 
@@ -103,6 +110,7 @@ void frmCheckBreaks::BuildControls() {
   cmdSave_ = button("cmdSave", "save", "Save", "Export to a CSV File");
   cmdPrint_ = button("cmdPrint", "print", "Print", "Print the Report");
   connect(cmdSave_, &QToolButton::clicked, this, [this] { OnSave(); });
+  cmdPrint_->setAccessibleDescription(cmdPrint_->toolTip() + ". Key: Ctrl+P");
   connect(cmdPrint_, &QToolButton::clicked, this, [this] { PrintDetails(); });
 }
 
@@ -191,6 +199,9 @@ void frmCheckBreaks::ShowOutcome() {
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);
   if (check_.picNoResultsVisible) picNoResults_->raise();
+  // The list has the focus, whatever lies over it.
+  const auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
+  lvwResults_->setAccessibleName(check_.picNoResultsVisible ? words->text() : Label1_->text());
   // Esc, the arrows and Enter are for the outcome, whichever control asked for the check.
   lvwResults_->setFocus();
 }
@@ -199,6 +210,30 @@ void frmCheckBreaks::OnRowChosen() {
   const std::string key = lvwResults_->KeyOfSelectedRow();
   if (key.empty()) return;
   Guarded([&] { SelectBreakInActiveSplits(TimeOfResultKey(key)); });
+}
+
+std::string frmCheckBreaks::GoToMismatch(MismatchStep step, std::optional<float> time) {
+  const std::vector<ListItem>& rows = check_.lvwResults.ListItems;
+  if (rows.empty()) return "There were no problems found.";
+  const std::string selected = lvwResults_->KeyOfSelectedRow();
+  if (!time && !selected.empty()) time = TimeOfResultKey(selected);
+  const auto at = [&](size_t row) { return TimeOfResultKey(rows[row].key); };
+  std::optional<size_t> found;
+  for (size_t row = 0; row < rows.size(); ++row) {
+    const bool here = time && selected.empty() && at(row) == *time;
+    if (step == MismatchStep::kNext && (!time || here || at(row) > *time)) {
+      found = row;
+      break;
+    }
+    if (step == MismatchStep::kPrevious && (!time || here || at(row) < *time)) found = row;
+  }
+  if (!found) {
+    return (step == MismatchStep::kNext ? "No mismatch after " : "No mismatch before ") +
+           FormatTimeDisplay(*time, kMaskHoursMinutes);
+  }
+  lvwResults_->SelectRow(*found);
+  OnRowChosen();
+  return "";
 }
 
 // Without a word where the dialog is cancelled, and where the writing fails part way: then only the

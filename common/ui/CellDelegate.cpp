@@ -1,9 +1,15 @@
 #include "common/ui/CellDelegate.h"
 
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "common/ui/CompactFont.h"
 #include "common/ui/Contrast.h"
+#include "common/ui/StationQString.h"
+#include "common/ui/Twips.h"
 
 namespace logchecker {
 
@@ -54,6 +60,20 @@ int CellMargin(const QFontMetrics& metrics) {
 
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   return {QStyledItemDelegate::sizeHint(option, index).width(), CompactRowHeight()};
+}
+
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const int room = cell.rect.width() - 2 * CellMargin(cell.fontMetrics) + 1;
+  const QString whole = cell.text.trimmed();
+  if (event->type() != QEvent::ToolTip || index.data(Qt::ToolTipRole).isValid() ||
+      cell.fontMetrics.horizontalAdvance(whole) <= room) {
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  }
+  QToolTip::showText(event->globalPos(), AsToolTip(whole), view->viewport(), cell.rect);
+  return true;
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

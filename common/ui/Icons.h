@@ -5,7 +5,7 @@
 
 namespace logchecker {
 
-// By the name of its file: "program", "load-day", "check-day", "save", "print" and so on.
+// By the name of its drawing: "program", "load-day", "check-day", "save", "print" and so on.
 QIcon IconNamed(const char* name);
 
 }  // namespace logchecker

@@ -8,6 +8,7 @@
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
 #include "dialogs/MonthCalendar.h"
+#include "dialogs/ui/DayLabel.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "ui_frmSelectHour.h"
 
@@ -68,12 +69,13 @@ void frmSelectHour::RedrawMonth() {
   for (int16_t label = 0; label < kCalendarLabels; ++label) {
     LabelOfDay(label)->clear();
     LabelOfDay(label)->setFrameShape(QFrame::NoFrame);
+    LabelOfDay(label)->SetMarked(false);
     LabelOfDay(label)->setAccessibleName({});
     SetDayLook(label, false);
   }
   const QString rest = " " + ui_->MonthList->currentText() + " " + ui_->lblYear->text();
   for (int16_t day = 1; day <= DaysInMonth; ++day) {
-    QLabel* label = LabelOfDay(static_cast<int16_t>(FirstDayOffset + day));
+    DayLabel* label = LabelOfDay(static_cast<int16_t>(FirstDayOffset + day));
     label->setText(QString::number(day));
     label->setAccessibleName(QString::number(day) + rest);
   }
@@ -83,30 +85,32 @@ void frmSelectHour::RedrawMonth() {
 
 void frmSelectHour::SelectDay() {
   SelectedDay = std::clamp(SelectedDay, int16_t{1}, DaysInMonth);
+  const int16_t selected = SelectedDay;
   if (MarkedDay > 0) {
     LabelOfMarkedDay()->setFrameShape(QFrame::NoFrame);
+    LabelOfMarkedDay()->SetMarked(selected == MarkedDay);
     SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), false);
   }
-  const int16_t selected = SelectedDay;
   {
     const QSignalBlocker quiet(ui_->DayScroll);
     ui_->DayScroll->setValue(selected);
   }
   MarkedDay = selected;
   LabelOfMarkedDay()->setFrameShape(QFrame::Box);
+  LabelOfMarkedDay()->SetMarked(true);
   SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), DayHasFocus);
   ui_->DayScroll->setAccessibleDescription(LabelOfMarkedDay()->accessibleName());
 }
 
-QLabel* frmSelectHour::LabelOfDay(int16_t label) const {
-  return findChild<QLabel*>(QString("lblDay%1").arg(label));
+DayLabel* frmSelectHour::LabelOfDay(int16_t label) const {
+  return findChild<DayLabel*>(QString("lblDay%1").arg(label));
 }
 
 QLabel* frmSelectHour::LabelOfWeekday(int weekday) const {
   return findChild<QLabel*>(QString("lbl%1").arg(weekday));
 }
 
-QLabel* frmSelectHour::LabelOfMarkedDay() const {
+DayLabel* frmSelectHour::LabelOfMarkedDay() const {
   return LabelOfDay(static_cast<int16_t>(FirstDayOffset + MarkedDay));
 }
 

@@ -7,7 +7,9 @@
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
 #include "common/ui/TextBoxes.h"
@@ -38,10 +40,16 @@ frmSelectHour::frmSelectHour(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmSelectHour>()) {
   const BusyPointer busy;
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideLoadDay);
+  ui_->DateFrame->setAccessibleDescription(
+      "Keys for the day: Left and Right by a day, Up and Down by a week");
   SetColours(*ui_->AMSH, kMorningColour, kBlack);
   SetColours(*ui_->PMSH, kAfternoonColour, kBlack);
   SetColours(*ui_->lblYear, kButtonFace, kButtonText);
   ColourCalendar();
+  SetAccessibleRole(*ui_->calendar, QAccessible::List);
+  ui_->AMSH->setAccessibleName("Green");
+  ui_->PMSH->setAccessibleName("Red");
   FitTextSize();
   SuspendRedraw = true;
   for (int16_t month = 1; month <= 12; ++month) {
@@ -73,6 +81,8 @@ void frmSelectHour::Connect() {
           [this](const QString& text) { ui_->TimeP->SetHour(ToInt32(Val(FromQString(text)))); });
   connect(ui_->TimeP, &HourDial::pressed, this,
           [this](const QPointF& position) { Guarded([&] { OnDialPressed(position); }); });
+  connect(ui_->TimeP, &HourDial::turned, this,
+          [this](int32_t hour) { ui_->TimeT->setText(QString::number(hour)); });
   connect(ui_->TimeP, &HourDial::doubleClicked, this, [this] { ui_->OKB->click(); });
   connect(ui_->OKB, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->CancelB, &QPushButton::clicked, this, [this] { OnCancel(); });

@@ -12,7 +12,7 @@ HKEY RootHandle(uint32_t root) {
   return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(static_cast<int32_t>(root)));
 }
 
-HKEY Handle(RegistryKey key) { return reinterpret_cast<HKEY>(key); }
+HKEY KeyHandle(RegistryKey key) { return reinterpret_cast<HKEY>(key); }
 
 class SystemRegistry : public RegistryCalls {
  public:
@@ -33,14 +33,14 @@ class SystemRegistry : public RegistryCalls {
     return result;
   }
 
-  void CloseKey(RegistryKey key) override { RegCloseKey(Handle(key)); }
+  void CloseKey(RegistryKey key) override { RegCloseKey(KeyHandle(key)); }
 
   int32_t QueryType(RegistryKey key, const std::string& name, uint32_t* type,
                     uint32_t* size) override {
     DWORD valueType = 0;
     DWORD valueSize = 0;
     const LSTATUS result =
-        RegQueryValueExA(Handle(key), name.c_str(), nullptr, &valueType, nullptr, &valueSize);
+        RegQueryValueExA(KeyHandle(key), name.c_str(), nullptr, &valueType, nullptr, &valueSize);
     *type = valueType;
     *size = valueSize;
     return result;
@@ -50,7 +50,7 @@ class SystemRegistry : public RegistryCalls {
                     std::string* data) override {
     DWORD valueType = 0;
     DWORD size = static_cast<DWORD>(data->size());
-    const LSTATUS result = RegQueryValueExA(Handle(key), name.c_str(), nullptr, &valueType,
+    const LSTATUS result = RegQueryValueExA(KeyHandle(key), name.c_str(), nullptr, &valueType,
                                             reinterpret_cast<BYTE*>(data->data()), &size);
     *type = valueType;
     return result;
@@ -58,13 +58,13 @@ class SystemRegistry : public RegistryCalls {
 
   int32_t SetValue(RegistryKey key, const std::string& name, uint32_t type,
                    const std::string& data) override {
-    return RegSetValueExA(Handle(key), name.c_str(), 0, type,
+    return RegSetValueExA(KeyHandle(key), name.c_str(), 0, type,
                           reinterpret_cast<const BYTE*>(data.data()),
                           static_cast<DWORD>(data.size()));
   }
 
   int32_t DeleteValue(RegistryKey key, const std::string& name) override {
-    return RegDeleteValueA(Handle(key), name.c_str());
+    return RegDeleteValueA(KeyHandle(key), name.c_str());
   }
 };
 

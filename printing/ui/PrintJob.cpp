@@ -13,7 +13,7 @@
 #include "common/ui/StationQString.h"
 #include "printing/PrintCanvas.h"
 #include "printing/WholePdf.h"
-#include "printing/ui/QueueRefusal.h"
+#include "printing/ui/QueueWatch.h"
 
 namespace logchecker {
 
@@ -35,14 +35,14 @@ PageSpan PickedPages(const QPrinter& chosen, int count) {
   return {first - 1, last - first + 1};
 }
 
-void Draw(QPrinter& paper, const PrintedPages& pages, PageSpan picked) {
+bool IsDrawn(QPrinter& paper, const PrintedPages& pages, PageSpan picked) {
   QPainter painter;
   bool drawn = painter.begin(&paper);
   for (int i = 0; i < picked.count && drawn; ++i) {
     if (i > 0) drawn = paper.newPage();
     if (drawn) pages.draw(painter, picked.first + i);
   }
-  if (!drawn || !painter.end()) Fail(kPrinterError, ErrorText(kPrinterError));
+  return drawn && painter.end();
 }
 
 // The file is written whole or not at all.
@@ -71,11 +71,18 @@ void PrintJob::Send(const PrintedPages& pages) {
     WriteFile(chosen_.outputFileName(), whole);
     return;
   }
-  // The toolkit does not notice when it can't write its own copy, but this one, which is as long
-  // and lay where that will lie, has just made room for it.
-  Draw(chosen_, pages, PickedPages(chosen_, pages.count));
-  const std::string refusal = QueueRefusal(chosen_.printerName());
+  HandOver(pages);
+}
+
+// The toolkit does not notice when it can't write its own copy, but the whole one, which is as long
+// and lay where that will lie, has just made room for it.
+void PrintJob::HandOver(const PrintedPages& pages) {
+  const QueueWatch queue(chosen_.printerName());
+  const PageSpan picked = PickedPages(chosen_, pages.count);
+  const bool drawn = IsDrawn(chosen_, pages, picked);
+  const std::string refusal = queue.Refusal(drawn);
   if (!refusal.empty()) Fail(kPrinterError, refusal);
+  if (!drawn) Fail(kPrinterError, ErrorText(kPrinterError));
 }
 
 QByteArray PrintJob::DrawWhole(const PrintedPages& pages) const {
@@ -90,7 +97,9 @@ QByteArray PrintJob::DrawWhole(const PrintedPages& pages) const {
   paper.setCreator(chosen_.creator());
   const std::string place = FromQString(QDir::toNativeSeparators(QDir::tempPath()));
   if (!folder.isValid()) Fail(kPathFileAccess, ErrorText(kPathFileAccess) + ": " + place);
-  Draw(paper, pages, PickedPages(chosen_, pages.count));
+  if (!IsDrawn(paper, pages, PickedPages(chosen_, pages.count))) {
+    Fail(kPrinterError, ErrorText(kPrinterError));
+  }
   QFile drawn(paper.outputFileName());
   QByteArray bytes = drawn.open(QIODevice::ReadOnly) ? drawn.readAll() : QByteArray();
   if (!IsWholePdf(std::string_view(bytes.constData(), static_cast<size_t>(bytes.size())))) {

@@ -33,6 +33,7 @@ class PrintJob {
 
  private:
   bool IsFile() const { return chosen_.outputFormat() == QPrinter::PdfFormat; }
+  void HandOver(const PrintedPages& pages);
   QByteArray DrawWhole(const PrintedPages& pages) const;
 
   QPrinter& chosen_;

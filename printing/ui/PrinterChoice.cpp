@@ -23,10 +23,10 @@ void Remember(const QPrinter& printer) {
 std::optional<PrinterChoice> AskForPrinter(QWidget* owner, const PrinterQuestion& question) {
   PrinterChoice choice;
   choice.printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  PrinterDialog dialog(choice.printer.get(), question, owner);
-  if (dialog.exec() != QDialog::Accepted) return std::nullopt;
+  const auto dialog = MakePrinterDialog(choice.printer.get(), question, owner);
+  if (dialog->exec() != QDialog::Accepted) return std::nullopt;
   Remember(*choice.printer);
-  choice.selectionOnly = dialog.printRange() == QAbstractPrintDialog::Selection;
+  choice.selectionOnly = dialog->printRange() == QAbstractPrintDialog::Selection;
   if (question.kind == JobKind::kReport) {
     choice.copies = std::max(choice.printer->copyCount(), 1);
     // The printer would make copies of each copy.

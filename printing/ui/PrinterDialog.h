@@ -1,7 +1,9 @@
-// The toolkit's printer dialog, as far as what it offers is done.
+// The printer dialog of the system: the toolkit's own where that offers a PDF file beside the
+// queues, else one that is drawn here, with the same controls under the same names.
 #pragma once
 
-#include <QPrintDialog>
+#include <QAbstractPrintDialog>
+#include <memory>
 
 #include "printing/ui/PrinterChoice.h"
 
@@ -9,26 +11,8 @@ namespace logchecker {
 
 // Opens with copies and range in sight, and with the last printer and paper. `printer` takes what
 // the user picks and must outlive the dialog.
-class PrinterDialog : public QPrintDialog {
- public:
-  PrinterDialog(QPrinter* printer, const PrinterQuestion& question, QWidget* owner);
-  void accept() override;
-
- protected:
-  void childEvent(QChildEvent* event) override;
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
- private:
-  void TakeLastPrinter();
-  void OfferFileWithItsBox();
-  bool IsLastPrinter() const;
-  void ShowLastPaper(QDialog* properties);
-  void Offer(const PrinterQuestion& question);
-  void Withhold(const char* control);
-  void ShowOptions();
-
-  QWidget* withheld_;
-  bool paperPicked_ = false;  // the properties, which have the paper, were confirmed
-};
+std::unique_ptr<QAbstractPrintDialog> MakePrinterDialog(QPrinter* printer,
+                                                        const PrinterQuestion& question,
+                                                        QWidget* owner);
 
 }  // namespace logchecker

@@ -20,6 +20,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -43,6 +44,7 @@ constexpr QSize kDesignSize{1180, 760};
 
 frmMain::frmMain() : area_(new QMdiArea) {
   setObjectName("frmMain");
+  SetGuidePage(*this, kGuideCheckDay);
   setWindowTitle(kProgramTitle);
   setWindowIcon(IconNamed("program"));
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -60,6 +62,12 @@ frmMain::frmMain() : area_(new QMdiArea) {
   connect(area_, &QMdiArea::subWindowActivated, this,
           [this](QMdiSubWindow* child) { OnChildActivated(child); });
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { SwitchFocus(); });
+  const auto step = [this](const QKeySequence& key, MismatchStep way) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this,
+            [this, way] { Guarded([&] { GoToMismatch(way); }); });
+  };
+  step(Qt::Key_F8, MismatchStep::kNext);
+  step(Qt::SHIFT | Qt::Key_F8, MismatchStep::kPrevious);
   const QSize room = ScreenFit::RoomOn(*screen());
   resize(kDesignSize.boundedTo(room));
   // The windows of the splits were arranged in the frame as it was.

@@ -14,6 +14,7 @@
 #include "common/SystemHelpers.h"
 #include "common/UserInterface.h"
 #include "common/VersionData.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Icons.h"
 #include "common/ui/LeastWidth.h"
 #include "common/ui/StationQString.h"
@@ -106,6 +107,7 @@ void frmSplash::SetCurrentAction(const std::string& text) {
 
 void frmSplash::ShowAsAboutBox() {
   setAttribute(Qt::WA_DeleteOnClose);
+  SetAccessibleRole(*this, QAccessible::Dialog);
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
   if (floating_ != 0) setWindowFlag(Qt::WindowStaysOnTopHint);
   ui_->cmdOK->show();

@@ -28,11 +28,15 @@ constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
 constexpr int kLeastCharacters = 8;  // of a description, in a large text
+constexpr char kKeys[] =
+    "Keys: Enter lines all splits up on the break, F8 and Shift+F8 go to the next and the previous "
+    "mismatch, F6 to the toolbar";
 
 }  // namespace
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
+  UseAccessibleTables();
   setHorizontalHeader(new CompactHeader(this));
   setModel(model_);
   setItemDelegate(new LogCellDelegate(grid, this));
@@ -48,6 +52,7 @@ LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   FitFont();
+  Describe();
   WhenTextSizeChanges(*this, [this] { FitFont(); });
   grid_.SetObserver(this);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
@@ -120,9 +125,14 @@ void LogGridView::SelectionChanged() {
 // A selection that is the same as before can have become one that stands in for another break.
 void LogGridView::ShowMiss() {
   const QString words = ToQString(MissInWords(grid_));
-  if (words == accessibleDescription()) return;
-  setAccessibleDescription(words);
+  if (words == miss_) return;
+  miss_ = words;
+  Describe();
   viewport()->update();
+}
+
+void LogGridView::Describe() {
+  setAccessibleDescription((miss_.isEmpty() ? QString() : miss_ + ". ") + kKeys);
 }
 
 bool LogGridView::viewportEvent(QEvent* event) {
@@ -130,7 +140,7 @@ bool LogGridView::viewportEvent(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     if (index.isValid() && selectionModel()->isSelected(index)) {
-      QToolTip::showText(help->globalPos(), AsToolTip(accessibleDescription()), viewport());
+      QToolTip::showText(help->globalPos(), AsToolTip(miss_), viewport());
       return true;
     }
   }
@@ -146,12 +156,29 @@ void LogGridView::OnScrolled(int value) {
 }
 
 void LogGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QTableView::currentChanged(current, previous);
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
   if (following_ || !current.isValid()) return;
   Guarded([&] {
     const QScopedValueRollback<bool> following(following_, true);
     if (current.row() + 1 < grid_.Rows()) grid_.SetRow(current.row() + 1);
   });
+}
+
+void LogGridView::selectionChanged(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own tells of hidden columns
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
+}
+
+void LogGridView::MakeRowCurrent(int row) {
+  setCurrentIndex(model_->index(row, kDescriptionColumn));
+}
+
+void LogGridView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit breakChosen();
 }
 
 void LogGridView::keyPressEvent(QKeyEvent* event) {

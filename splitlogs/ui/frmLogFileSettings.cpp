@@ -11,6 +11,7 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/LeastWidth.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
@@ -35,6 +36,7 @@ std::string TextOf(const QLineEdit* box) { return FromQString(box->text()); }
 frmLogFileSettings::frmLogFileSettings(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLogFileSettings>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSplit);
   HoldLeastWidth(*this, kLeastWidth);
   ConnectFields();
   SetSplitNumberLabel("1");

@@ -12,8 +12,8 @@
 namespace logchecker {
 namespace {
 
-constexpr char kFirst[] = "06:00:00|NTH  00000001 FIRST\n\n";
-constexpr char kSecond[] = "07:00:00|NTH  00000002 SECOND\n\n";
+constexpr char kFirstPart[] = "06:00:00|NTH  00000001 FIRST\n\n";
+constexpr char kSecondPart[] = "07:00:00|NTH  00000002 SECOND\n\n";
 
 class LogReloadTest : public StationTest {
  protected:
@@ -30,24 +30,24 @@ class LogReloadTest : public StationTest {
 };
 
 TEST_F(LogReloadTest, AGrownLogIsReadToItsNewEnd) {
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   EXPECT_EQ(4, Load(kDay).Rows());
-  WriteLog(1, kDay, std::string(kFirst) + kSecond);
+  WriteLog(1, kDay, std::string(kFirstPart) + kSecondPart);
   EXPECT_EQ(7, Load(kDay).Rows());
   EXPECT_EQ("SECOND", gSplits(1).gridLog.Text(4, kDescriptionColumn));
 }
 
 TEST_F(LogReloadTest, ALogThatGrewUnderADayWithoutOneIsReadToItsNewEnd) {
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   EXPECT_EQ(4, Load(kDay).Rows());
-  WriteLog(1, kDay, std::string(kFirst) + kSecond);
+  WriteLog(1, kDay, std::string(kFirstPart) + kSecondPart);
   EXPECT_EQ(7, Load(kDay + 1).Rows());
 }
 
 TEST_F(LogReloadTest, ALogThatWasCutShortLeavesNothingOfItsLongerSelf) {
-  WriteLog(1, kDay, std::string(kFirst) + kSecond);
+  WriteLog(1, kDay, std::string(kFirstPart) + kSecondPart);
   EXPECT_EQ(7, Load(kDay).Rows());
-  WriteLog(1, kDay, kSecond);
+  WriteLog(1, kDay, kSecondPart);
   const LogGrid& grid = Load(kDay);
   EXPECT_EQ(4, grid.Rows());
   EXPECT_EQ("07:00", grid.Text(1, kTimeColumn));
@@ -71,27 +71,27 @@ class ChangingUi : public RecordingUi {
 };
 
 TEST_F(LogReloadTest, ALogThatChangesBehindItsOpeningIsReadAsItStandsThen) {
-  for (const std::string text : {"", "06:00:00|NTH  000", kSecond, "\n\n"}) {
-    WriteLog(1, kDay, kFirst);
+  for (const std::string text : {"", "06:00:00|NTH  000", kSecondPart, "\n\n"}) {
+    WriteLog(1, kDay, kFirstPart);
     {
       const ChangingUi changing([&] { WriteLog(1, kDay, text); });
       Load(kDay);
     }
     const LogGrid& grid = gSplits(1).gridLog;
-    const int32_t rows = text.empty() || text[0] == '\n' ? 1 : text == kSecond ? 4 : 2;
+    const int32_t rows = text.empty() || text[0] == '\n' ? 1 : text == kSecondPart ? 4 : 2;
     EXPECT_EQ(rows, grid.Rows()) << text;
   }
 }
 
 TEST_F(LogReloadTest, CartsAreReadAnewAtEachLoad) {
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   EXPECT_EQ("  :30.00", Load(kDay).Text(2, kLengthColumn));
   PutCart(1, 45.0F);
   EXPECT_EQ("  :45.00", Load(kDay).Text(2, kLengthColumn));
 }
 
 TEST_F(LogReloadTest, AnUnloadedSplitShowsItsOpenLogAgain) {
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   Load(kDay);
   const int16_t file = SettingsOf(1).LogFileNumber;
   gSplits.Unload(1);
@@ -101,7 +101,7 @@ TEST_F(LogReloadTest, AnUnloadedSplitShowsItsOpenLogAgain) {
 }
 
 TEST_F(LogReloadTest, WhoShowsTheGridIsToldOfTheEmptyGridAndOfTheFullOne) {
-  WriteLog(1, kDay, std::string(kFirst) + kSecond);
+  WriteLog(1, kDay, std::string(kFirstPart) + kSecondPart);
   CountingObserver observer;
   gSplits(1).gridLog.SetObserver(&observer);
   Load(kDay);
@@ -111,11 +111,11 @@ TEST_F(LogReloadTest, WhoShowsTheGridIsToldOfTheEmptyGridAndOfTheFullOne) {
 }
 
 TEST_F(LogReloadTest, TheSelectionStaysInsideAGridThatHasShrunk) {
-  WriteLog(1, kDay, std::string(kFirst) + kSecond);
+  WriteLog(1, kDay, std::string(kFirstPart) + kSecondPart);
   Load(kDay);
   gSplits(1).SelectBreakByTime(7 * 3600);
   EXPECT_EQ(4, gSplits(1).gridLog.Row());
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   const LogGrid& grid = Load(kDay);
   EXPECT_LT(grid.Row(), grid.Rows());
   EXPECT_LT(grid.TopRow(), grid.Rows());
@@ -123,7 +123,7 @@ TEST_F(LogReloadTest, TheSelectionStaysInsideAGridThatHasShrunk) {
 }
 
 TEST_F(LogReloadTest, ALoadThatStopsLeavesTheLogOpenForTheNextOne) {
-  WriteLog(1, kDay, kFirst);
+  WriteLog(1, kDay, kFirstPart);
   os.script.FailNamed("Files.Peek", 1, kDeviceIoError);
   EXPECT_THROW(Load(kDay), RunTimeError);
   os.script.Clear();

@@ -1,55 +1,13 @@
-#include <sys/inotify.h>
-#include <unistd.h>
+#include "tests/checking/ui/PrintDetailsTest.h"
 
-#include <QDir>
-#include <QFile>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <array>
 
 #include "common/DatePicture.h"
-#include "platform/HostPaths.h"
-#include "tests/checking/ui/ResultsTest.h"
-#include "tests/support/ui/FullDisk.h"
-#include "tests/support/ui/PrintedFile.h"
+#include "tests/support/ui/FolderWatch.h"
 
 namespace logchecker {
 namespace {
-
-class PrintDetailsTest : public ResultsTest {
- protected:
-  PrintDetailsTest() : pdf(QString::fromStdString(ToHostPath(folder().Path()) + "/report.pdf")) {}
-
-  // The real dialog, answered with a PDF file, so many copies, and all rows or the selection.
-  void AnswerDialog(QDialog* dialog, int copies, std::optional<bool> selection) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
-    ASSERT_NE(printer, nullptr);
-    EXPECT_EQ(printer->windowTitle(), "Print Check Split Times");
-    presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
-    AnswerWithFile(printer, pdf, copies, selection);
-  }
-  void Print(int copies = 1, std::optional<bool> selection = std::nullopt) {
-    QFile::remove(pdf);
-    DialogScript script([&](QDialog* dialog) { AnswerDialog(dialog, copies, selection); });
-    window->PrintDetails();
-  }
-  // Past the dialog's own test of the folder.
-  void PrintPastTheDialogsTests(int copies) {
-    DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
-      printer->printer()->setOutputFileName(pdf);
-      printer->printer()->setCopyCount(copies);
-      printer->done(QDialog::Accepted);
-    });
-    window->PrintDetails();
-  }
-  QString Text() const { return TextOfFile(pdf); }
-
-  QString pdf;
-  bool presetSelection = false;
-};
 
 // Looks at the pointer of the results window whenever the run lets events run or says something.
 class PointerWatchingUi : public RecordingUi {
@@ -165,20 +123,9 @@ TEST_F(PrintDetailsTest, SeveralCopiesEndInOneMessage) {
 // Each job replaces the file of the one before.
 TEST_F(PrintDetailsTest, ThreeCopiesAreThreeJobs) {
   Check();
-  const int watch = inotify_init1(IN_NONBLOCK);
-  ASSERT_GE(inotify_add_watch(watch, ToHostPath(folder().Path()).c_str(), IN_MOVED_TO | IN_CREATE),
-            0);
+  FolderWatch watch(QString::fromStdString(ToHostPath(folder().Path())));
   Print(3);
-  alignas(inotify_event) std::array<char, 4096> events{};
-  const ssize_t length = read(watch, events.data(), events.size());
-  close(watch);
-  int jobs = 0;
-  for (ssize_t at = 0; at < length;) {
-    const auto* event = reinterpret_cast<const inotify_event*>(events.data() + at);
-    if (std::string(event->name) == "report.pdf") ++jobs;
-    at += static_cast<ssize_t>(sizeof(inotify_event) + event->len);
-  }
-  EXPECT_EQ(jobs, 3);
+  EXPECT_EQ(watch.Arrivals("report.pdf"), 3);
 }
 
 TEST_F(PrintDetailsTest, PaperAndOrientationAreThoseThatWerePicked) {
@@ -196,8 +143,9 @@ TEST_F(PrintDetailsTest, PaperAndOrientationAreThoseThatWerePicked) {
     properties->accept();
   });
   window->PrintDetails();
-  EXPECT_TRUE(OutputOf("pdfinfo", {pdf}).contains(QRegularExpression("Page size: +842 x 595")))
-      << OutputOf("pdfinfo", {pdf}).toStdString();
+  EXPECT_TRUE(
+      OutputOfProgram("pdfinfo", {pdf}).contains(QRegularExpression("Page size: +842 x 595")))
+      << OutputOfProgram("pdfinfo", {pdf}).toStdString();
 }
 
 TEST_F(PrintDetailsTest, OfARangeOfPagesThatIsNotThereTheReasonIsSaid) {
@@ -212,21 +160,6 @@ TEST_F(PrintDetailsTest, OfARangeOfPagesThatIsNotThereTheReasonIsSaid) {
   ASSERT_EQ(ui.messages.size(), 1U);
   EXPECT_NE(ui.messages[0].text.find("There are no such pages"), std::string::npos);
   EXPECT_FALSE(QFile::exists(pdf));
-}
-
-TEST_F(PrintDetailsTest, OnAFullDiskTheFileThatIsThereStaysAndTheReasonIsSaid) {
-  Check();
-  for (const rlim_t room : {0, 4096}) {
-    folder().WriteFile("report.pdf", "old");
-    ui.messages.clear();
-    const FullDisk full(room);
-    PrintPastTheDialogsTests(1);
-    ASSERT_EQ(ui.messages.size(), 1U);
-    EXPECT_EQ(ui.messages[0].text,
-              "There was a problem printing your Check Split Times Report on " + pdf.toStdString() +
-                  "Disk full: " + QDir::tempPath().toStdString());
-    EXPECT_EQ(folder().ReadFile("report.pdf"), "old");
-  }
 }
 
 TEST_F(PrintDetailsTest, ACancelledDialogEndsInSilence) {

@@ -119,6 +119,36 @@ TEST_F(SharedPartsTest, EveryIconIsDrawnAtEveryScale) {
   }
 }
 
+TEST_F(SharedPartsTest, NoIconIsStretchedAtTheScalesOfAScreen) {
+  const struct {
+    const char* name;
+    int size;
+  } rows[] = {{"save", 16},     {"save", 17},        {"print", 17},
+              {"load-day", 32}, {"check-day", 32},   {"cart", 32},
+              {"row-up", 16},   {"no-problems", 50}, {"program", 96}};
+  for (const auto& row : rows) {
+    for (const double scale : {1.0, 1.5, 2.0, 3.0}) {
+      const QSize size = QSize(row.size, row.size) * scale;
+      const QPixmap shown = IconNamed(row.name).pixmap(QSize(row.size, row.size), scale);
+      const QPixmap drawn(QString(":/icons/%1/%2.png").arg(row.name).arg(size.width()));
+      ASSERT_EQ(drawn.size(), size) << row.name << " " << scale;
+      EXPECT_TRUE(shown.toImage() == drawn.toImage()) << row.name << " " << scale;
+      EXPECT_EQ(shown.devicePixelRatio(), scale);
+    }
+  }
+}
+
+TEST_F(SharedPartsTest, ADisabledIconIsFaint) {
+  const QImage plain = IconNamed("program").pixmap(QSize(32, 32)).toImage();
+  const QImage faint = IconNamed("program").pixmap(QSize(32, 32), QIcon::Disabled).toImage();
+  ASSERT_EQ(qAlpha(plain.pixel(16, 4)), 255);
+  EXPECT_NEAR(qAlpha(faint.pixel(16, 4)), 0.35 * 255, 2);
+}
+
+TEST_F(SharedPartsTest, AnIconOfAnUnknownNameDrawsNothing) {
+  EXPECT_TRUE(IconNamed("no such picture").pixmap(QSize(16, 16)).isNull());
+}
+
 TEST_F(SharedPartsTest, AnIconLeavesThePainterAsItWas) {
   QImage image(16, 16, QImage::Format_ARGB32);
   image.fill(Qt::transparent);

@@ -7,12 +7,13 @@
 #include <QImage>
 #include <QMimeData>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTextBlock>
 
 #include "notes/ui/NoteDocument.h"
 #include "notes/ui/NotePictures.h"
+#include "platform/HostPaths.h"
+#include "tests/support/ui/HostProgram.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -42,7 +43,7 @@ class NoteBoxTest : public WindowTest {
   bool ShowRich(const std::string& body) {
     return Show("{\\rtf1\\ansi\\deff0{\\fonttbl{\\f0 DejaVu Sans;}}\\f0\\fs24 " + body + "}");
   }
-  QString Pdf() const { return QString::fromStdString(folder().Path()) + "/note.pdf"; }
+  QString Pdf() const { return QString::fromStdString(ToHostPath(folder().Path())) + "/note.pdf"; }
   void Print(bool selectionOnly = false) {
     QPrinter paper(QPrinter::HighResolution);
     paper.setOutputFormat(QPrinter::PdfFormat);
@@ -51,16 +52,10 @@ class NoteBoxTest : public WindowTest {
                                     QMarginsF(1, 1, 1, 1), QPageLayout::Inch));
     box.PrintNote(paper, "note", selectionOnly);
   }
-  QString OutputOf(const QString& program, const QStringList& arguments) const {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
   std::vector<Word> Words() const {
     static const QRegularExpression word("xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\".*>([^<]*)</word>");
     std::vector<Word> words;
-    auto found = word.globalMatch(OutputOf("pdftotext", {"-bbox", Pdf(), "-"}));
+    auto found = word.globalMatch(OutputOfProgram("pdftotext", {"-bbox", Pdf(), "-"}));
     while (found.hasNext()) {
       const auto match = found.next();
       // The toolkit draws the line above a page's edge too, where it can't be seen.
@@ -79,7 +74,7 @@ class NoteBoxTest : public WindowTest {
   }
   int Pages() const {
     static const QRegularExpression pages("Pages: +([0-9]+)");
-    return pages.match(OutputOf("pdfinfo", {Pdf()})).captured(1).toInt();
+    return pages.match(OutputOfProgram("pdfinfo", {Pdf()})).captured(1).toInt();
   }
   QTextCharFormat FormatAt(int position) {
     QTextCursor cursor(box.document());
@@ -196,17 +191,17 @@ TEST_F(NoteBoxTest, PicturesOfThreeKindsAreShownAndPrinted) {
     EXPECT_EQ(QSizeF(picture.width(), picture.height()), sizes[i]) << i;
   }
   Print();
-  EXPECT_EQ(OutputOf("pdfimages", {"-list", Pdf()}).count(" image "), 3);
+  EXPECT_EQ(OutputOfProgram("pdfimages", {"-list", Pdf()}).count(" image "), 3);
   ShowRich("no more of them");
   Print();
-  EXPECT_EQ(OutputOf("pdfimages", {"-list", Pdf()}).count(" image "), 0);
+  EXPECT_EQ(OutputOfProgram("pdfimages", {"-list", Pdf()}).count(" image "), 0);
 }
 
 TEST_F(NoteBoxTest, APictureWiderThanThePaperIsMadeToFit) {
   ShowRich("{\\pict\\pngblip\\picwgoal20000\\pichgoal2000 " + Hex(FileOf(Red(300, 30), "png")) +
            "}");
   Print();
-  const QString listed = OutputOf("pdfimages", {"-list", Pdf()});
+  const QString listed = OutputOfProgram("pdfimages", {"-list", Pdf()});
   static const QRegularExpression row(" 300 +30 .* ([0-9]+) +([0-9]+) +[0-9]+B");
   // A4 less two inches is 6.27 inches.
   EXPECT_NEAR(row.match(listed).captured(1).toDouble(), 300 / 6.27, 1) << listed.toStdString();
@@ -449,7 +444,8 @@ TEST_F(NoteBoxTest, NothingIsDrawnAboveAPagesEdge) {
   ASSERT_GT(Pages(), 1);
   for (const char* page : {"1", "2"}) {
     const QString stem = Pdf() + ".page";
-    OutputOf("pdftoppm", {"-r", "72", "-f", page, "-l", page, "-singlefile", "-png", Pdf(), stem});
+    OutputOfProgram("pdftoppm",
+                    {"-r", "72", "-f", page, "-l", page, "-singlefile", "-png", Pdf(), stem});
     const QImage picture = QImage(stem + ".png").convertToFormat(QImage::Format_Grayscale8);
     ASSERT_FALSE(picture.isNull());
     const auto isWhite = [&](int from, int to) {

@@ -1,3 +1,5 @@
+#include "tests/notes/ui/PrintPreviewTest.h"
+
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QFile>
@@ -7,7 +9,6 @@
 #include <QListWidget>
 #include <QPrintDialog>
 #include <QPrinter>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -20,83 +21,11 @@
 #include "notes/ui/frmPrintPreview.h"
 #include "platform/HostPaths.h"
 #include "platform/Platform.h"
-#include "tests/support/ui/FullDisk.h"
+#include "tests/support/ui/HostProgram.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
 namespace {
-
-class PrintPreviewTest : public WindowTest {
- protected:
-  PrintPreviewTest() {
-    folder().WriteFile("note.rtf", "{\\rtf1\\ansi first {\\b bold}\\par caf\\'e9}");
-    folder().WriteFile("note.txt", "plain <b>text</b>\r\nsecond");
-  }
-  void Open(const std::string& file) {
-    preview.LoadFile(file);
-    preview.show();
-    QApplication::setActiveWindow(&preview);
-  }
-  QTextEdit* Box() { return Control<QTextEdit>(&preview, "rtfFile"); }
-  QString Text() { return Box()->toPlainText(); }
-  void Press(const char* button) { Control<QPushButton>(&preview, button)->click(); }
-  // Prints to a PDF file and gives its text.
-  QString Printed(std::optional<bool> selection) {
-    const QString pdf = QString::fromStdString(ToHostPath(folder().Path()) + "/out.pdf");
-    QFile::remove(pdf);
-    DialogScript script([&](QDialog* dialog) {
-      auto* printer = qobject_cast<QPrintDialog*>(dialog);
-      ASSERT_NE(printer, nullptr);
-      presetSelection = printer->printRange() == QAbstractPrintDialog::Selection;
-      auto* printers = Control<QComboBox>(printer, "printers");
-      printers->setCurrentIndex(printers->count() - 1);
-      Control<QLineEdit>(printer, "filename")->setText(pdf);
-      if (selection) {
-        Control<QRadioButton>(printer, *selection ? "printSelection" : "printAll")
-            ->setChecked(true);
-      }
-      printer->accept();
-    });
-    Press("cmdPrint");
-    pages = OutputOf("pdfinfo", {pdf}).count(QRegularExpression("Pages: +1\n"));
-    fonts = OutputOf("pdffonts", {pdf});
-    return OutputOf("pdftotext", {pdf, "-"});
-  }
-  static QString OutputOf(const QString& program, const QStringList& arguments) {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished();
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
-  void Select(int from, int to) {
-    QTextCursor cursor(Box()->document());
-    cursor.setPosition(from);
-    cursor.setPosition(to, QTextCursor::KeepAnchor);
-    Box()->setTextCursor(cursor);
-  }
-  // Saves under a name that is typed into the dialog.
-  void SaveUnder(const QString& name) {
-    DialogScript script([&](QDialog* dialog) {
-      EXPECT_EQ(dialog->windowTitle(), "Select File to Save to");
-      auto* box = Control<QLineEdit>(dialog, "fileNameEdit");
-      EXPECT_EQ(box->text(), "*.*");
-      QApplication::setActiveWindow(dialog);
-      box->setFocus();
-      box->setText(name);
-      QTest::keyClick(box, Qt::Key_Return);
-      if (dialog->isVisible()) dialog->reject();
-    });
-    Press("cmdSave");
-  }
-  QString HostName(const char* name) const {
-    return QString::fromStdString(ToHostPath(Path(name)));
-  }
-
-  frmPrintPreview preview;
-  bool presetSelection = false;
-  QString fonts;
-  qsizetype pages = 0;  // 1 where a file of one page was printed
-};
 
 TEST_F(PrintPreviewTest, ShowsRichTextWithItsFormats) {
   Open(Path("note.rtf"));
@@ -202,24 +131,6 @@ TEST_F(PrintPreviewTest, PlainTextPrintsInThePrintersFontWhoseCharactersAreOfOne
   Printed(std::nullopt);
   EXPECT_EQ(fonts.count(QRegularExpression("(Courier|Mono).* yes ")), 1) << fonts.toStdString();
   EXPECT_EQ(fonts.count('\n'), 3) << "under the two lines of the heading one font";
-}
-
-TEST_F(PrintPreviewTest, AFullDiskIsSaid) {
-  Open(Path("note.rtf"));
-  folder().WriteFile("out.pdf", "old");
-  DialogScript script([&](QDialog* dialog) {
-    auto* printer = qobject_cast<QPrintDialog*>(dialog);
-    printer->printer()->setOutputFileName(HostName("out.pdf"));
-    printer->done(QDialog::Accepted);
-  });
-  {
-    const FullDisk full(4096);
-    Press("cmdPrint");
-  }
-  ASSERT_EQ(ui.messages.size(), 1U);
-  EXPECT_EQ(ui.messages[0].text.find("There was a problem while printing."), 0U);
-  EXPECT_NE(ui.messages[0].text.find(ErrorText(kDiskFull)), std::string::npos);
-  EXPECT_EQ(folder().ReadFile("out.pdf"), "old");
 }
 
 TEST_F(PrintPreviewTest, AFailureOfThePrinterIsSaid) {

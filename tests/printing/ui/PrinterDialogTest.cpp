@@ -7,8 +7,8 @@
 #include <QSpinBox>
 
 #include "printing/ui/PrinterChoice.h"
-#include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
+#include "tests/support/ui/posix/PrintQueue.h"
 
 namespace logchecker {
 namespace {

@@ -1,17 +1,16 @@
 // Real pages: printed to PDF, then read as text and as pictures.
-#include <cups/cups.h>
-
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPageSize>
 #include <QPrinter>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include "printing/cPrinting.h"
 #include "printing/ui/QtPrintCanvas.h"
+#include "tests/support/ui/HostProgram.h"
+#include "tests/support/ui/NoPrinters.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -52,25 +51,20 @@ class ReportTest : public WindowTest {
     error = printing.GetLastError();
     return printed;
   }
-  QString Run(const QString& program, const QStringList& arguments) const {
-    QProcess process;
-    process.start(program, arguments);
-    process.waitForFinished(60000);
-    return QString::fromUtf8(process.readAllStandardOutput());
-  }
   int Pages() const {
-    const auto match = QRegularExpression("Pages:\\s+(\\d+)").match(Run("pdfinfo", {pdf}));
+    const auto match =
+        QRegularExpression("Pages:\\s+(\\d+)").match(OutputOfProgram("pdfinfo", {pdf}));
     return match.captured(1).toInt();
   }
   QStringList TextOfPages() const {
-    QStringList pages = Run("pdftotext", {"-layout", pdf, "-"}).split('\f');
+    QStringList pages = OutputOfProgram("pdftotext", {"-layout", pdf, "-"}).split('\f');
     if (pages.last().trimmed().isEmpty()) pages.removeLast();
     return pages;
   }
   QImage Picture(int page, int dotsPerInch) const {
     const QString stem = folderOfPages.filePath("page");
-    Run("pdftoppm", {"-r", QString::number(dotsPerInch), "-f", QString::number(page), "-l",
-                     QString::number(page), "-singlefile", "-png", pdf, stem});
+    OutputOfProgram("pdftoppm", {"-r", QString::number(dotsPerInch), "-f", QString::number(page),
+                                 "-l", QString::number(page), "-singlefile", "-png", pdf, stem});
     return QImage(stem + ".png").convertToFormat(QImage::Format_Grayscale8);
   }
 
@@ -160,7 +154,7 @@ TEST_F(ReportTest, ATextIsAsWideAsItsCharactersTogether) {
   canvas.Print("officefflAVATo.");
   canvas.EndDoc();
   static const QRegularExpression box("xMin=\"([0-9.]+)\".*xMax=\"([0-9.]+)\"");
-  const auto match = box.match(Run("pdftotext", {"-bbox", pdf, "-"}));
+  const auto match = box.match(OutputOfProgram("pdftotext", {"-bbox", pdf, "-"}));
   ASSERT_TRUE(match.hasMatch());
   const double points = match.captured(2).toDouble() - match.captured(1).toDouble();
   EXPECT_NEAR(points * 20, twips, 4);
@@ -186,9 +180,8 @@ TEST_F(ReportTest, AccentedAndControlCharactersPrint) {
 
 TEST_F(ReportTest, WithoutAPrinterTheReasonIsClear) {
   const ListView list = ListOf(2, 1);
-  cupsSetServer("/nowhere");
+  const NoPrinters noPrinters;
   QPrinter none;
-  cupsSetServer(nullptr);
   QtPrintCanvas canvas(none, "T");
   cPrinting printing(canvas);
   EXPECT_EQ(printing.PrintListView(&list, "T", 0), 0);

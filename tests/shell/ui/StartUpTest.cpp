@@ -107,7 +107,7 @@ TEST_F(StartUpTest, SettingsThatCannotBeReadAreToldAndEndTheProgram) {
     EXPECT_FALSE(Start()) << name;
     EXPECT_TRUE(main->HasEnded());
     ASSERT_EQ(ui.Texts().size(), 1U) << name;
-    const std::string file = std::filesystem::path(name).filename();
+    const std::string file = std::filesystem::path(name).filename().string();
     EXPECT_NE(ui.Texts()[0].find(file + " is a directory"), std::string::npos) << ui.Texts()[0];
     std::filesystem::remove(Path(name));
     if (folder().Exists("kept")) std::filesystem::rename(Path("kept"), Path(name));

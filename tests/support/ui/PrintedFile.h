@@ -4,12 +4,12 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPrintDialog>
-#include <QProcess>
 #include <QRadioButton>
 #include <QSpinBox>
 #include <QString>
 #include <optional>
 
+#include "tests/support/ui/HostProgram.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {
@@ -38,16 +38,8 @@ inline void PickQueue(QDialog* dialog, const char* queue) {
   printers->setCurrentIndex(index);
 }
 
-// What a program prints.
-inline QString OutputOf(const QString& program, const QStringList& arguments) {
-  QProcess process;
-  process.start(program, arguments);
-  process.waitForFinished();
-  return QString::fromUtf8(process.readAllStandardOutput());
-}
-
 inline QString TextOfFile(const QString& pdf) {
-  return OutputOf("pdftotext", {"-layout", pdf, "-"});
+  return OutputOfProgram("pdftotext", {"-layout", pdf, "-"});
 }
 
 }  // namespace logchecker
