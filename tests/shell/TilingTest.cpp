@@ -43,7 +43,7 @@ TEST(Tiling, AnAreaTooNarrowForOneStillTakesThemAll) {
   EXPECT_TRUE(TileVertically(0, 100, 400, 200).empty());
 }
 
-TEST(TileVertically, RowsAreNoLowerThanAWindowCanBe) {
+TEST(Tiling, RowsAreNoLowerThanAWindowCanBe) {
   const std::vector<TilePlace> places = TileVertically(3, 300, 100, 200, 134);
   ASSERT_EQ(places.size(), 3U);
   for (size_t i = 0; i < places.size(); ++i) {
