@@ -10,7 +10,8 @@ cd "$(dirname "$0")"
 
 run_tests() {
   build "$1"
-  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$(nproc)"
+  # Many of them wait for something most of their time.
+  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$(($(nproc) * 2))"
 }
 
 case "${1:-}" in

@@ -55,6 +55,20 @@ std::string PanelCaption(const CartInfo& info, bool onThreeLines, int32_t panelW
   return fitted(info.Line1) + "\n" + fitted(info.Line2) + "\n" + fitted(info.Line3);
 }
 
+std::string SpokenRow(const CartInfo& info, int32_t cartNumber) {
+  std::string said = "Cart " + std::to_string(cartNumber);
+  bool runsOn = false;
+  for (const CartLine* line : {&info.Line1, &info.Line2, &info.Line3}) {
+    const std::string_view whole(line->data(), line->size());
+    if (Trim(whole).empty()) continue;
+    // A line without room for a blank at its end may run on in the next.
+    said += (runsOn ? "" : ", ") + std::string(Trim(whole));
+    runsOn = whole.back() != ' ';
+  }
+  if (info.TotalLength == gBlankCartInfo.TotalLength) return said + ", not in use";
+  return info.PlayLength > 0 ? said : said + ", no audio";
+}
+
 BrowserRow ReadBrowserRow(int32_t cartNumber, bool onThreeLines, int32_t panelWidth,
                           const FitText& fit) {
   BrowserRow row;
@@ -70,7 +84,10 @@ BrowserRow ReadBrowserRow(int32_t cartNumber, bool onThreeLines, int32_t panelWi
   if (info.PlayLength > 0) row.Tag = row.ButtonCaption;
   row.BackColor = info.BackColor;
   row.ForeColor = info.ForeColor;
+  row.Spoken = SpokenRow(info, cartNumber);
   row.Caption = PanelCaption(info, onThreeLines, panelWidth, fit);
+  row.Whole = PanelCaption(info, onThreeLines, panelWidth,
+                           [](const std::string& text, int32_t /*maxWidth*/) { return text; });
   return row;
 }
 

@@ -44,6 +44,8 @@ struct BrowserRow {
   int32_t BackColor = 0;  // of the panel; 0x00BBGGRR, or a system colour with the top bit set
   int32_t ForeColor = 0;
   std::string Caption;  // of the panel; plain text, lines ended by a line feed
+  std::string Whole;    // the caption as it would be without an edge
+  std::string Spoken;   // for those who can't see it: the number, and the cart's lines in full
 };
 
 // The longest head of a text that is drawn within a width.
@@ -53,6 +55,10 @@ using FitText = std::function<std::string(const std::string& text, int32_t maxWi
 // each of its lines on one of its own, cut to the panel.
 std::string PanelCaption(const CartInfo& info, bool onThreeLines, int32_t panelWidth,
                          const FitText& fit);
+
+// What is said of a cart: its number, and those of its lines that aren't blank, whole. That one is
+// not in use or has no audio, which its colours tell to the eye, stands behind them.
+std::string SpokenRow(const CartInfo& info, int32_t cartNumber);
 
 // Reads the cart anew. A number outside the store gives a hidden row in the blank cart's colours.
 BrowserRow ReadBrowserRow(int32_t cartNumber, bool onThreeLines, int32_t panelWidth,

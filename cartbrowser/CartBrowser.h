@@ -77,6 +77,8 @@ class CartBrowser : public CartJumper {
   // The mouse on a row, from 1. Positions are twips in its panel.
   void ButtonDown(int16_t row);
   void ButtonClicked(int16_t row) { ActivateRow(row); }
+  // Makes the row the current one and takes nothing.
+  void MakeRowCurrent(int16_t row) { ButtonDown(row); }
   void PanelDown(int16_t row, bool leftButton, float x, float y);
   // True when the panel's drag is to begin.
   bool PanelMove(bool buttonHeld, float x, float y, float twipsPerPixel) const;

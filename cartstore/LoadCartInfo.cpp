@@ -28,57 +28,94 @@ int32_t ReadOwnListFile(const std::string& file, CartRecord* record) {
   return error == kNoError ? closing : error;
 }
 
-// A record without a played stretch plays from its beginning to its end.
-void RepairPlayedStretch(CartInfo& info) {
-  if (info.EndPoint > 0 && info.PlayLength > 0) return;
-  info.StartPoint = 0;
-  info.EndPoint = info.TotalLength;
-  info.PlayLength = info.EndPoint - info.StartPoint;
+// Makes the cart's part ready to be read; -1 where there is none.
+int16_t ReadyPartOf(int32_t cartNumber, AudiowallPart** entry) {
+  if (cartNumber < 1 || cartNumber > gNumberOfCarts) return kOutOfReach;
+  ClearError();
+  const int16_t part = GetCartPart(cartNumber);
+  *entry = &PartEntry(part);
+  if ((*entry)->State == kPartUsable || OpenAudiowall(part, true) == 0) return 0;
+  (*entry)->State = kPartUnusable;
+  TellUnreadableCart(cartNumber, (*entry)->Path, kOutOfReach);
+  return kOutOfReach;
 }
 
-int16_t Blank(CartInfo& info, int32_t result) {
-  info = gBlankCartInfo;
-  return static_cast<int16_t>(result);
+int32_t RecordNumberOf(int32_t cartNumber, const AudiowallPart& entry) {
+  return cartNumber - static_cast<int32_t>(&entry - gAudiowallParts.data()) * kCartsOfAPart;
+}
+
+// Reads the cart's record as far as there is one, and returns an error number.
+int16_t ReadRecord(int32_t cartNumber, AudiowallPart& entry, CartRecord* record) {
+  if (gAudioSettings.UseIndividualCartListFiles) {
+    const std::string file = GetCartFileStem(cartNumber) + ".LST";
+    if (GetFileLength(file) > 0) {
+      const int32_t error = ReadOwnListFile(file, record);
+      if (!Succeeded(error)) TellUnreadableCart(cartNumber, file, error);
+      return static_cast<int16_t>(error);
+    }
+  }
+  const int32_t number = RecordNumberOf(cartNumber, entry);
+  const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), number, record);
+  if (!Succeeded(error)) {
+    entry.State = kPartUnusable;
+    TellUnreadableCart(cartNumber, entry.FullFileName, error);
+  }
+  return static_cast<int16_t>(error);
+}
+
+// A record without a played stretch plays from its beginning to its end.
+void RepairPlayedStretch(CartRecord& record) {
+  if (record.EndPoint > 0 && record.PlayLength > 0) return;
+  record.StartPoint = 0;
+  record.EndPoint = record.TotalLength;
+  record.PlayLength = record.EndPoint - record.StartPoint;
+}
+
+// Whether there is a cart in `record`; `result` is what reading it gave.
+bool HoldsCart(const CartRecord& record, int16_t result) {
+  return result == 0 && record.TotalLength != gBlankCartInfo.TotalLength;
 }
 
 }  // namespace
 
 int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
-  if (cartNumber < 1 || cartNumber > gNumberOfCarts) return Blank(info, kOutOfReach);
-  ClearError();
-  const int16_t part = GetCartPart(cartNumber);
-  AudiowallPart& entry = PartEntry(part);
-  if (entry.State != kPartUsable && OpenAudiowall(part, true) != 0) {
-    entry.State = kPartUnusable;
-    TellUnreadableCart(cartNumber, entry.Path, kOutOfReach);
-    return Blank(info, kOutOfReach);
+  AudiowallPart* entry = nullptr;
+  CartRecord record;
+  int16_t result = ReadyPartOf(cartNumber, &entry);
+  if (result == 0) {
+    record = gBlankCartRecord;
+    result = ReadRecord(cartNumber, *entry, &record);
   }
-  CartRecord record = gBlankCartRecord;
-  bool read = false;
-  if (gAudioSettings.UseIndividualCartListFiles) {
-    const std::string file = GetCartFileStem(cartNumber) + ".LST";
-    if (GetFileLength(file) > 0) {
-      const int32_t error = ReadOwnListFile(file, &record);
-      if (!Succeeded(error)) {
-        TellUnreadableCart(cartNumber, file, error);
-        return Blank(info, error);
-      }
-      read = true;
-    }
+  if (HoldsCart(record, result)) {
+    RepairPlayedStretch(record);
+    CartInfoFromRecord(info, record);
+  } else {
+    info = gBlankCartInfo;
   }
-  if (!read) {
-    const int32_t recordNumber = cartNumber - (part - 1) * kCartsOfAPart;
-    const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), recordNumber, &record);
-    if (!Succeeded(error)) {
-      entry.State = kPartUnusable;
-      TellUnreadableCart(cartNumber, entry.FullFileName, error);
-      return Blank(info, error);
-    }
+  return result;
+}
+
+// Of the blank cart, which stands behind the end of a file, no more is made ready than is looked
+// at.
+int16_t LoadCartLengths(CartLengths& lengths, int32_t cartNumber) {
+  AudiowallPart* entry = nullptr;
+  CartRecord record;
+  int16_t result = ReadyPartOf(cartNumber, &entry);
+  if (result == 0) {
+    record.Length = gBlankCartRecord.Length;
+    record.TotalLength = gBlankCartRecord.TotalLength;
+    record.StartPoint = gBlankCartRecord.StartPoint;
+    record.EndPoint = gBlankCartRecord.EndPoint;
+    record.PlayLength = gBlankCartRecord.PlayLength;
+    result = ReadRecord(cartNumber, *entry, &record);
   }
-  CartInfoFromRecord(info, record);
-  RepairPlayedStretch(info);
-  if (info.TotalLength == gBlankCartInfo.TotalLength) return Blank(info, 0);
-  return 0;
+  if (HoldsCart(record, result)) {
+    RepairPlayedStretch(record);
+    lengths = {record.Length, record.PlayLength};
+  } else {
+    lengths = {gBlankCartInfo.Length, gBlankCartInfo.PlayLength};
+  }
+  return result;
 }
 
 }  // namespace logchecker

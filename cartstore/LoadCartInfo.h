@@ -1,4 +1,4 @@
-// The one routine through which every cart is read.
+// The one way on which every cart is read.
 #pragma once
 
 #include <cstdint>
@@ -12,5 +12,14 @@ namespace logchecker {
 // be used, otherwise the number of the error that the read met. Nothing is cached: every call reads
 // anew. A part whose read failed is opened again, quietly, by the next call.
 int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber);
+
+// What the check takes of a cart, in seconds; the fields are the record's.
+struct CartLengths {
+  float Length = 0;
+  float PlayLength = 0;
+};
+
+// The same read, with the same result and traces, for those who want no more than this of a cart.
+int16_t LoadCartLengths(CartLengths& lengths, int32_t cartNumber);
 
 }  // namespace logchecker

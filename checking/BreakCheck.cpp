@@ -36,10 +36,10 @@ size_t IndexOf(int16_t splitNumber) { return static_cast<size_t>(splitNumber - 1
 // single precision. A cart without audio adds nothing.
 float MeasureBreak(const LogGrid& grid, int32_t first, int32_t last) {
   float length = 0;
-  CartInfo info;
+  CartLengths cart;
   for (int32_t row = first; row <= last; ++row) {
-    LoadCartInfo(info, ToInt32(Val(grid.Text(row, kCartColumn))));
-    if (info.PlayLength > 0) length += info.Length;
+    LoadCartLengths(cart, grid.RowCart(row));
+    if (cart.PlayLength > 0) length += cart.Length;
   }
   return length;
 }

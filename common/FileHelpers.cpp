@@ -43,35 +43,40 @@ std::string WriteWholeFile(const std::string& path, const std::string& bytes) {
   return error == kNoError ? "" : ShownPath(path) + " could not be written: " + ErrorText(error);
 }
 
-void ReadTextLine(int16_t fileNumber, std::string& line) {
-  line.clear();
-  if (fileNumber <= 0) return;
+std::string_view WithoutReturns(std::string_view line, std::string& spare) {
+  const size_t firstReturn = line.find('\r');
+  if (firstReturn == std::string_view::npos) return line;
+  if (firstReturn + 1 == line.size()) return line.substr(0, firstReturn);
+  spare = line;
+  spare.erase(std::remove(spare.begin(), spare.end(), '\r'), spare.end());
+  return spare;
+}
+
+std::string_view ReadTextLine(int16_t fileNumber, std::string& spare) {
+  spare.clear();
+  if (fileNumber <= 0) return spare;
   Files& files = Os().files;
   bool atEnd = false;
   while (!atEnd) {
     std::string_view bytes;
     const bool failed = !Succeeded(files.Peek(fileNumber, &bytes)) ||
-                        !Succeeded(line.size() > kLongestLine ? kOverflow : kNoError);
+                        !Succeeded(spare.size() > kLongestLine ? kOverflow : kNoError);
     atEnd = failed || bytes.empty();
     const size_t lineFeed = bytes.find('\n');
-    line.append(bytes.substr(0, lineFeed));
+    spare.append(bytes.substr(0, lineFeed));
     if (lineFeed != std::string_view::npos) {
       files.Skip(fileNumber, lineFeed + 1);
       break;
     }
     files.Skip(fileNumber, bytes.size());
   }
-  if (atEnd && !line.empty()) line.pop_back();
-  const size_t firstReturn = line.find('\r');
-  if (firstReturn == std::string::npos) return;
-  line.erase(std::remove(line.begin() + static_cast<std::ptrdiff_t>(firstReturn), line.end(), '\r'),
-             line.end());
+  if (atEnd && !spare.empty()) spare.pop_back();
+  return WithoutReturns(spare, spare);
 }
 
 std::string ReadTextLine(int16_t fileNumber) {
-  std::string line;
-  ReadTextLine(fileNumber, line);
-  return line;
+  std::string spare;
+  return std::string(ReadTextLine(fileNumber, spare));
 }
 
 std::string GetWindowsFolder() { return Os().system.WindowsFolder(); }

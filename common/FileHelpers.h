@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace logchecker {
 
@@ -27,8 +28,11 @@ inline constexpr size_t kLongestLine = size_t{512} * 1024 * 1024;
 // tests for the end before it adds, and this is meant. A failing read ends the line and stands in
 // the error state.
 std::string ReadTextLine(int16_t fileNumber);
-// The same into a text whose memory is used again.
-void ReadTextLine(int16_t fileNumber, std::string& line);
+// The same into `spare`, whose memory is used again, as a view of it.
+std::string_view ReadTextLine(int16_t fileNumber, std::string& spare);
+// `line` without carriage returns: a view of it where there is none or one at its end, else of
+// `spare`.
+std::string_view WithoutReturns(std::string_view line, std::string& spare);
 
 // Makes `bytes` the whole file, or leaves the file that was there. "" on success, otherwise one
 // clear line.

@@ -6,16 +6,6 @@
 
 namespace logchecker {
 
-std::string_view Trim(std::string_view text) {
-  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
-  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
-  return text;
-}
-
-std::string_view Mid(std::string_view text, size_t start, size_t count) {
-  return start > text.size() ? std::string_view() : text.substr(start - 1, count);
-}
-
 std::string GetDelimitedField(std::string_view source, int32_t& start, std::string_view delimiter,
                               int32_t& position, bool trim, bool skipBlanks) {
   position = 0;

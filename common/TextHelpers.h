@@ -8,10 +8,17 @@
 namespace logchecker {
 
 // Without the blanks (spaces, nothing else) at both ends.
-std::string_view Trim(std::string_view text);
+inline std::string_view Trim(std::string_view text) {
+  while (!text.empty() && text.front() == ' ') text.remove_prefix(1);
+  while (!text.empty() && text.back() == ' ') text.remove_suffix(1);
+  return text;
+}
 
 // `count` characters of `text` from position `start`, as far as there are any.
-std::string_view Mid(std::string_view text, size_t start, size_t count = std::string_view::npos);
+inline std::string_view Mid(std::string_view text, size_t start,
+                            size_t count = std::string_view::npos) {
+  return start > text.size() ? std::string_view() : text.substr(start - 1, count);
+}
 
 // The text from a start position up to a delimiter, or to the end where there is none. A `start`
 // below 1 is set to 1. With `skipBlanks` it begins at the first character from there on that is no

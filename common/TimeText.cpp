@@ -1,5 +1,6 @@
 #include "common/TimeText.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "common/Numbers.h"
@@ -17,7 +18,11 @@ struct Field {
   char text[2] = {' ', ' '};
 
   bool IsBlank() const { return text[0] == ' ' && text[1] == ' '; }
-  void AddTo(std::string& result) const { result.append(text, 2); }
+  char* AddTo(char* end) const {
+    end[0] = text[0];
+    end[1] = text[1];
+    return end + 2;
+  }
 
   // Two digits with a leading zero.
   void Pad(int32_t value) {
@@ -52,41 +57,58 @@ Fields FillFields(double seconds, int32_t mask) {
   }
   if (mask == 100) return fields;  // this mask alone leaves every field without a value
   seconds = RoundByTens(seconds, mask);
-  const auto whole = static_cast<int32_t>(std::floor(seconds));
-  const auto hundredths = static_cast<int32_t>(RoundHalfEven(seconds * 100)) % 100;
+  const auto whole = static_cast<int32_t>(seconds);
   const bool dropZeros = mask > 100;
-  fields.hundredths.Set(hundredths, dropZeros && seconds < 1);
-  fields.seconds.Set(whole % 60, dropZeros && seconds < 60);
-  fields.minutes.Set(whole / 60 % 60, dropZeros && seconds < 3600);
-  fields.hours.Set(whole / 3600 % 3600, dropZeros);
+  if (mask % 10 < 2) {
+    const auto hundredths = static_cast<int32_t>(RoundHalfEven(seconds * 100)) % 100;
+    fields.hundredths.Set(hundredths, dropZeros && seconds < 1);
+  }
+  fields.seconds.Set(whole % 60, dropZeros && whole < 60);
+  fields.minutes.Set(whole / 60 % 60, dropZeros && whole < 3600);
+  fields.hours.Set(whole / 3600, dropZeros);
   return fields;
 }
 
 }  // namespace
 
-std::string FormatTimeDisplay(double seconds, int32_t mask) {
+TimeDisplay TimeDisplay::OfTime(double seconds, int32_t mask) {
   const Fields fields = FillFields(seconds, mask);
   const int32_t units = mask % 10;
   const bool keepsBlanks = mask < 200;
-  std::string result;
+  TimeDisplay result;
+  char* const begin = result.text_.data();
+  char* end = begin;
   if ((units == 1 || units == 2 || units == 4) && (keepsBlanks || !fields.hours.IsBlank())) {
-    fields.hours.AddTo(result);
-    result += ':';
+    end = fields.hours.AddTo(end);
+    *end++ = ':';
   }
-  fields.minutes.AddTo(result);
+  end = fields.minutes.AddTo(end);
   if (units != 4 && (keepsBlanks || !fields.seconds.IsBlank())) {
-    result += ':';
-    fields.seconds.AddTo(result);
+    *end++ = ':';
+    end = fields.seconds.AddTo(end);
   }
   if (units == 0 || units == 1) {
-    result += '.';
-    fields.hundredths.AddTo(result);
+    *end++ = '.';
+    end = fields.hundredths.AddTo(end);
   }
+  result.size_ = static_cast<uint8_t>(end - begin);
   return result;
 }
 
+TimeDisplay TimeDisplay::OfLength(float seconds, int32_t mask) {
+  if (std::isfinite(seconds)) return OfTime(seconds, mask);
+  TimeDisplay none;
+  none.size_ = sizeof kNoTimeText - 1;
+  std::copy_n(kNoTimeText, none.size_, none.text_.data());
+  return none;
+}
+
+std::string FormatTimeDisplay(double seconds, int32_t mask) {
+  return std::string(std::string_view(TimeDisplay::OfTime(seconds, mask)));
+}
+
 std::string FormatLengthDisplay(float seconds, int32_t mask) {
-  return std::isfinite(seconds) ? FormatTimeDisplay(seconds, mask) : kNoTimeText;
+  return std::string(std::string_view(TimeDisplay::OfLength(seconds, mask)));
 }
 
 namespace {

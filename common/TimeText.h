@@ -1,6 +1,7 @@
 // Times of day and lengths as text, and back.
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -20,6 +21,19 @@ std::string FormatTimeDisplay(double seconds, int32_t mask);
 
 // FormatTimeDisplay of a length, but "--:--" for one that is no finite number.
 std::string FormatLengthDisplay(float seconds, int32_t mask);
+
+// What either of them shows, without an allocation.
+class TimeDisplay {
+ public:
+  static TimeDisplay OfTime(double seconds, int32_t mask);
+  static TimeDisplay OfLength(float seconds, int32_t mask);
+
+  operator std::string_view() const { return {text_.data(), size_}; }
+
+ private:
+  std::array<char, 15> text_;
+  uint8_t size_ = 0;
+};
 
 // The seconds that a text of fixed layout stands for: two-character fields at positions 1, 4, 7 and
 // 10, by the mask's units digit as above (3 alone for mm:ss). Rounded to single precision. A field

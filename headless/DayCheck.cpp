@@ -65,7 +65,7 @@ class UnreadableCartWatch {
 AdvertReport DescribeAdvert(const LogGrid& grid, int32_t row) {
   AdvertReport advert;
   advert.row = row;
-  advert.cart = ToInt32(Val(grid.Text(row, kCartColumn)));
+  advert.cart = grid.RowCart(row);
   advert.description = Trim(grid.Text(row, kDescriptionColumn));
   advert.reference = Trim(grid.Text(row, kReferenceColumn));
   return advert;
@@ -180,10 +180,10 @@ std::optional<std::vector<AdvertReport>> AdvertsAt(int16_t splitNumber, float ti
   for (; row <= last; ++row) {
     adverts.push_back(DescribeAdvert(split.gridLog, row));
     AdvertReport& advert = adverts.back();
-    CartInfo info;
-    LoadCartInfo(info, advert.cart);
-    advert.audio = info.PlayLength > 0;
-    if (advert.audio) advert.length = info.Length;
+    CartLengths cart;
+    LoadCartLengths(cart, advert.cart);
+    advert.audio = cart.PlayLength > 0;
+    if (advert.audio) advert.length = cart.Length;
   }
   return adverts;
 }

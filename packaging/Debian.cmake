@@ -28,7 +28,8 @@ set(CPACK_DEBIAN_DESKTOP_PACKAGE_NAME logchecker)
 # Beside the libraries: the folders of the icons, and a font for paper.
 set(CPACK_DEBIAN_DESKTOP_PACKAGE_DEPENDS
   "logchecker-headless (= ${PROJECT_VERSION}), hicolor-icon-theme, fonts-liberation | fonts-liberation2")
-set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "cups-client")
+# What shows the guide, and what a job on paper is looked at with.
+set(CPACK_DEBIAN_DESKTOP_PACKAGE_RECOMMENDS "cups-client, xdg-utils, firefox-esr | www-browser")
 set(CPACK_COMPONENT_DESKTOP_DESCRIPTION
   "A station that sends one programme out in several splits must start
 each advert break in the same minute and make it last the same length in
@@ -39,7 +40,7 @@ the cart browser (cartbrowser); the same check without a window (logcheck)
 comes with logchecker-headless.")
 
 # What is made for the packages alone, and not in every build.
-add_custom_target(package_files DEPENDS logcheck logchecker cartbrowser)
+add_custom_target(package_files DEPENDS logcheck logchecker cartbrowser guide)
 
 # Compressed as the system wants them, without a time stamp, so that a package comes out the same twice.
 find_program(GZIP_PROGRAM gzip REQUIRED)

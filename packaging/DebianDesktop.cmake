@@ -1,4 +1,4 @@
-# logchecker: the programs with windows, their manual pages, desktop entry, icons and AppStream data.
+# logchecker: the programs with windows, their guide, manual pages, desktop entries, icons and AppStream data.
 
 foreach(program logchecker cartbrowser)
   install_program(${program} desktop)
@@ -10,7 +10,14 @@ file(CREATE_LINK ../logchecker-headless "${CMAKE_CURRENT_BINARY_DIR}/documents" 
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/documents"
   DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/doc/logchecker" COMPONENT desktop)
 
-install(FILES org.logchecker.LogChecker.desktop
+# The programs look for the guide beside them; it needs no machine of one kind.
+install(DIRECTORY "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/guide"
+  DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/logchecker" COMPONENT desktop)
+file(RELATIVE_PATH guide_from_programs "/usr/${programs}" "/usr/${CMAKE_INSTALL_DATAROOTDIR}/logchecker/guide")
+file(CREATE_LINK "${guide_from_programs}" "${CMAKE_CURRENT_BINARY_DIR}/guide" SYMBOLIC)
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/guide" DESTINATION "${programs}" COMPONENT desktop)
+
+install(FILES org.logchecker.LogChecker.desktop org.logchecker.CartBrowser.desktop
   DESTINATION "${CMAKE_INSTALL_DATAROOTDIR}/applications" COMPONENT desktop)
 configure_file(org.logchecker.LogChecker.metainfo.xml.in org.logchecker.LogChecker.metainfo.xml @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/org.logchecker.LogChecker.metainfo.xml"

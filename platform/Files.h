@@ -54,7 +54,7 @@ class Files {
   virtual int32_t Position(int16_t number, int64_t* position) = 0;
   virtual int32_t EndOfFile(int16_t number, bool* atEnd) = 0;
   // The bytes that can be had without another read: at least one unless the file is at its end. The
-  // view holds until the next call for this number. Skip passes over bytes that Peek has shown.
+  // view holds until the next call for this number but Skip, which passes over bytes that it shows.
   virtual int32_t Peek(int16_t number, std::string_view* bytes) = 0;
   virtual void Skip(int16_t number, size_t count) = 0;
 

@@ -13,6 +13,7 @@ import zipfile
 
 HERE = pathlib.Path(__file__).resolve().parent.parent
 ID = "org.logchecker.LogChecker"
+ENTRIES = (ID, "org.logchecker.CartBrowser")
 LINK = re.compile(r"\]\(([^)#]+)(?:#[^)]*)?\)")
 TEMPLATES = ("crontab", "logcheck-task.xml", "logcheck@.service", "logcheck@.timer", "station.conf", "user.conf")
 # The developers' own stay with the source.
@@ -42,7 +43,9 @@ DESKTOP = [
     *[f"usr/share/man/man1/{name}.1.gz" for name in WITH_WINDOWS],
     *of_each_package("logchecker"),
     "usr/share/doc/logchecker/documents/guide.md",
-    f"usr/share/applications/{ID}.desktop",
+    *[f"usr/share/applications/{name}.desktop" for name in ENTRIES],
+    *[f"usr/share/logchecker/guide/{page}.html" for page in ("index", "check-a-day", "all-keys", "settings")],
+    "usr/share/logchecker/guide/pictures/select-hour.png",
     f"usr/share/metainfo/{ID}.metainfo.xml",
     f"usr/share/icons/hicolor/scalable/apps/{ID}.svg",
     *[f"usr/share/icons/hicolor/{n}x{n}/apps/{ID}.png" for n in (16, 24, 32, 48, 64, 128, 256)],
@@ -161,9 +164,12 @@ def check_desktop_runs(root):
     for name in WITH_WINDOWS:
         if not (root / "usr/bin" / name).resolve().parent.joinpath("find.avi").is_file():
             sys.exit("find.avi does not lie beside the programs")
-    run("desktop-file-validate", root / f"usr/share/applications/{ID}.desktop")
+        if not (root / "usr/bin" / name).resolve().parent.joinpath("guide/index.html").is_file():
+            sys.exit("the guide does not lie beside the programs")
+    for name in ENTRIES:
+        run("desktop-file-validate", root / f"usr/share/applications/{name}.desktop")
     run("appstreamcli", "validate-tree", "--no-net", root)
-    for test in ("day", "cart_browser"):
+    for test in ("day", "cart_browser", "first_steps"):
         run(sys.executable, HERE / f"tests/desktop/{test}_test.py", root / "usr/bin")
 
 

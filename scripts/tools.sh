@@ -25,7 +25,7 @@ need() {
   echo "Installing: ${missing[*]}"
   "${as_root[@]}" apt-get update -q >/dev/null || true
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -y -q --no-install-recommends "${missing[@]}" >/dev/null
+    apt-get install -y -q --no-install-recommends -o DPkg::Lock::Timeout=600 "${missing[@]}" >/dev/null
 }
 
 # Systems without Debian packages: the tools by name, and the libraries in words.
@@ -34,16 +34,25 @@ need_elsewhere() {
   for tool in cmake ninja c++ rsvg-convert; do
     command -v "$tool" >/dev/null 2>&1 && continue
     echo "$tool is missing. Log Checker needs CMake 3.25, Ninja, a C++20 compiler, Qt 6.4, rsvg-convert, ALSA," >&2
-    echo "CLI11 and nlohmann-json; its tests also need GoogleTest, RapidCheck, Xvfb and xdotool." >&2
+    echo "CLI11, nlohmann-json and Python 3 with its markdown package; its tests also need GoogleTest," >&2
+    echo "RapidCheck, Xvfb and xdotool." >&2
     exit 1
   done
 }
 
 plain_packages=(cmake ninja-build g++ libasound2-dev libcli11-dev nlohmann-json3-dev)
-build_packages=("${plain_packages[@]}" qt6-base-dev librsvg2-bin qt6-multimedia-dev libcups2-dev)
+build_packages=("${plain_packages[@]}" qt6-base-dev librsvg2-bin qt6-multimedia-dev libcups2-dev python3
+  python3-markdown)
 test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev libjpeg-dev
   libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
+<<<<<<< HEAD
   fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils)
+=======
+  fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils
+  at-spi2-core dbus python3-pyatspi)
+windows_packages=("${plain_packages[@]}" librsvg2-bin g++-mingw-w64-x86-64-posix wine64 googletest python3
+  python3-markdown)
+>>>>>>> main
 windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
 windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3
   xvfb fonts-wine fonts-liberation fonts-dejavu-core poppler-utils cups)

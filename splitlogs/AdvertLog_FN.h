@@ -37,7 +37,7 @@ int32_t GetLineCart(std::string_view line);
 // Columns 10 to 13, trimmed and in upper case.
 std::string GetLineTXChainCode(std::string_view line);
 
-// The same readers on one line that is normalised once, for those who want several of its fields.
+// The same readers on one line that is taken apart once, for those who want several of its fields.
 class LogLine {
  public:
   // `line` must outlive the object, and the views that it gives.
@@ -46,16 +46,16 @@ class LogLine {
   LogLine& operator=(const LogLine&) = delete;
 
   float Time() const;
-  std::string_view Reference() const;
-  std::string_view Description() const;
+  std::string_view Reference() const { return reference_; }
+  std::string_view Description() const { return description_; }
   int32_t Cart() const;
+  // What the TX chain code is made of, as it stands.
+  std::string_view TXChainColumns() const { return chain_; }
   std::string TXChainCode() const;
 
  private:
-  std::string_view Columns(size_t first, size_t last) const;
-
-  std::string normalised_;  // of an old line
-  std::string_view text_;
+  std::string normalised_;  // of a short line of the old form
+  std::string_view hoursAndMinutes_, seconds_, chain_, cart_, description_, reference_;
 };
 
 }  // namespace logchecker

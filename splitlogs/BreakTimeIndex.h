@@ -9,7 +9,7 @@
 namespace logchecker {
 
 // Holds the time of each row and, built anew after a change when it is next asked, the first row of
-// each time and the greatest time up to each row.
+// each time and the rows at which the greatest time so far rises.
 class BreakTimeIndex {
  public:
   // Rows from 0; a new row has the time 0. Row 0 is never found.
@@ -27,7 +27,8 @@ class BreakTimeIndex {
 
   std::vector<float> times_;
   mutable bool stale_ = false;
-  mutable std::vector<float> greatest_;                         // up to each row, from row 1
+  // The rows whose time is greater than all before them, in order.
+  mutable std::vector<std::pair<float, int32_t>> rises_;
   mutable std::vector<std::pair<float, int32_t>> firstOfTime_;  // by time
 };
 

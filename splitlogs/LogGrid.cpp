@@ -32,7 +32,7 @@ LogGrid::LogGrid() { SetRows(1); }
 void LogGrid::SetHeadings() {
   for (int32_t column = 0; column < kLogColumns; ++column) {
     rows_[0].texts[static_cast<size_t>(column)] =
-        kLogColumnHeaders[static_cast<size_t>(column)].text;
+        texts_.Keep(kLogColumnHeaders[static_cast<size_t>(column)].text);
   }
 }
 
@@ -44,6 +44,9 @@ void LogGrid::SetRows(int32_t rows) {
     SetHeadings();
   }
   times_.SetRows(count);
+  for (std::vector<int32_t>& colours : backColours_) {
+    colours.resize(std::min(colours.size(), static_cast<size_t>(count)));
+  }
   row_ = std::min(row_, count - 1);
   selectionEndRow_ = std::min(selectionEndRow_, count - 1);
   topRow_ = std::min(topRow_, count - 1);
@@ -51,41 +54,57 @@ void LogGrid::SetRows(int32_t rows) {
   TellChange();
 }
 
-void LogGrid::RequireRow(int32_t row) const {
-  if (row < 0 || row >= Rows()) {
-    throw RunTimeError(kInvalidGridRow,
-                       "row " + std::to_string(row) + " of " + std::to_string(Rows()));
-  }
+void LogGrid::RefuseRow(int32_t row) const {
+  throw RunTimeError(kInvalidGridRow,
+                     "row " + std::to_string(row) + " of " + std::to_string(Rows()));
 }
 
-void LogGrid::RequireColumn(int32_t column) {
-  if (column < 0 || column >= kLogColumns) {
-    throw RunTimeError(kInvalidGridRow, "column " + std::to_string(column));
-  }
-}
-
-std::string_view LogGrid::Text(int32_t row, int32_t column) const {
-  RequireRow(row);
-  RequireColumn(column);
-  return rows_[static_cast<size_t>(row)].texts[static_cast<size_t>(column)];
+void LogGrid::RefuseColumn(int32_t column) {
+  throw RunTimeError(kInvalidGridRow, "column " + std::to_string(column));
 }
 
 void LogGrid::SetText(int32_t row, int32_t column, std::string_view text) {
   RequireRow(row);
   RequireColumn(column);
+  GridRow& cells = At(row);
   if (column == kTimeColumn) times_.SetTime(row, TimeOfText(text));
-  rows_[static_cast<size_t>(row)].texts[static_cast<size_t>(column)] = texts_.Keep(text);
+  if (column == kCartColumn) cells.cart = ToInt32(Val(text));
+  if (column == kPositionColumn) cells.isAdvert = !Trim(text).empty();
+  cells.texts[static_cast<size_t>(column)] = texts_.Keep(text);
+  TellChange();
+}
+
+void LogGrid::SetAdvert(int32_t row, const AdvertCells& cells) {
+  RequireRow(row);
+  GridRow& advert = At(row);
+  advert.texts[kDescriptionColumn] = texts_.Keep(cells.description);
+  advert.texts[kReferenceColumn] = texts_.Keep(cells.reference);
+  advert.texts[kCartColumn] = texts_.KeepNumber(cells.cart);
+  advert.texts[kLengthColumn] = texts_.Keep(cells.length);
+  advert.texts[kPositionColumn] = texts_.KeepNumber(cells.position);
+  advert.cart = cells.cart;
+  advert.isAdvert = true;
+  SetBackColour(row, kLengthColumn, cells.lengthColour);
   TellChange();
 }
 
 int32_t LogGrid::BackColour(int32_t row, int32_t column) const {
   RequireRow(row);
   RequireColumn(column);
-  return rows_[static_cast<size_t>(row)].backColours[static_cast<size_t>(column)];
+  const std::vector<int32_t>& colours = backColours_[static_cast<size_t>(column)];
+  return static_cast<size_t>(row) < colours.size() ? colours[static_cast<size_t>(row)]
+                                                   : kGridOwnColour;
+}
+
+void LogGrid::SetBackColour(int32_t row, int32_t column, int32_t colour) {
+  std::vector<int32_t>& colours = backColours_[static_cast<size_t>(column)];
+  const auto at = static_cast<size_t>(row);
+  if (at >= colours.size()) colours.resize(rows_.size(), kGridOwnColour);
+  colours[at] = colour;
 }
 
 void LogGrid::SetCellBackColour(int32_t colour) {
-  rows_[static_cast<size_t>(row_)].backColours[static_cast<size_t>(column_)] = colour;
+  SetBackColour(row_, column_, colour);
   TellChange();
 }
 
@@ -132,13 +151,6 @@ void LogGrid::SetRedraw(bool redraw) {
   redraw_ = redraw;
   TellChange();
   TellSelection();
-}
-
-bool LogGrid::IsAdvertRow(int32_t row) const { return !Trim(Text(row, kPositionColumn)).empty(); }
-
-float LogGrid::RowTime(int32_t row) const {
-  RequireRow(row);
-  return times_.Time(row);
 }
 
 void LogGrid::TellChange() {

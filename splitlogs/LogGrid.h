@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "common/ListView.h"
 #include "splitlogs/BreakTimeIndex.h"
@@ -31,6 +32,16 @@ inline constexpr int32_t kGridOwnColour = -1;
 inline constexpr int32_t kRed = 255;  // 0x00BBGGRR
 inline constexpr int32_t kWhite = 0xFFFFFF;
 
+// What an advert's row shows, but for the time of a break.
+struct AdvertCells {
+  int64_t position = 0;  // in the file, from 1
+  std::string_view description;
+  std::string_view reference;
+  int32_t cart = 0;
+  std::string_view length;
+  int32_t lengthColour = kGridOwnColour;
+};
+
 // Who shows the grid. Told of each change while the grid paints, and once of all when it paints
 // again.
 class LogGridObserver {
@@ -51,8 +62,14 @@ class LogGrid {
   void SetRows(int32_t rows);
 
   // The view holds until the grid next has one row.
-  std::string_view Text(int32_t row, int32_t column) const;
+  std::string_view Text(int32_t row, int32_t column) const {
+    RequireRow(row);
+    RequireColumn(column);
+    return texts_.Text(At(row).texts[static_cast<size_t>(column)]);
+  }
   void SetText(int32_t row, int32_t column, std::string_view text);
+  // Does what setting each of the cells by itself would do.
+  void SetAdvert(int32_t row, const AdvertCells& cells);
   int32_t BackColour(int32_t row, int32_t column) const;
 
   // The current cell. Making a row current makes it the whole selection.
@@ -85,30 +102,52 @@ class LogGrid {
   void SetObserver(LogGridObserver* observer) { observer_ = observer; }
 
   // Whether the row belongs to a break.
-  bool IsAdvertRow(int32_t row) const;
+  bool IsAdvertRow(int32_t row) const {
+    RequireRow(row);
+    return At(row).isAdvert;
+  }
+  // The number that column 3 of the row gives, 0 for none.
+  int32_t RowCart(int32_t row) const {
+    RequireRow(row);
+    return At(row).cart;
+  }
   // The time that column 0 of the row gives, in seconds: whole minutes, 0 for an empty cell.
-  float RowTime(int32_t row) const;
+  float RowTime(int32_t row) const {
+    RequireRow(row);
+    return times_.Time(row);
+  }
   // The first row from 1 on with this very time, or with this or a later one; 0 for none.
   int32_t FirstRowAt(float seconds) const { return times_.FirstAt(seconds); }
   int32_t FirstRowAtOrAfter(float seconds) const { return times_.FirstAtOrAfter(seconds); }
 
  private:
+  // What is read of a cell's text again and again is kept in step with the text.
   struct GridRow {
-    std::array<std::string_view, kLogColumns> texts;
-    std::array<int32_t, kLogColumns> backColours;
-
-    GridRow() { backColours.fill(kGridOwnColour); }
+    std::array<PooledText, kLogColumns> texts;
+    int32_t cart = 0;
+    bool isAdvert = false;
   };
 
+  GridRow& At(int32_t row) { return rows_[static_cast<size_t>(row)]; }
+  const GridRow& At(int32_t row) const { return rows_[static_cast<size_t>(row)]; }
   void SetHeadings();
-  void RequireRow(int32_t row) const;
-  static void RequireColumn(int32_t column);
+  void SetBackColour(int32_t row, int32_t column, int32_t colour);
+  void RequireRow(int32_t row) const {
+    if (row < 0 || row >= Rows()) RefuseRow(row);
+  }
+  static void RequireColumn(int32_t column) {
+    if (column < 0 || column >= kLogColumns) RefuseColumn(column);
+  }
+  [[noreturn]] void RefuseRow(int32_t row) const;
+  [[noreturn]] static void RefuseColumn(int32_t column);
   void TellChange();
   void TellSelection();
 
   GridRows<GridRow> rows_;
   TextPool texts_;
   BreakTimeIndex times_;
+  // By column and row; the rows that are not there yet have none of their own.
+  std::array<std::vector<int32_t>, kLogColumns> backColours_;
   int32_t row_ = 0;
   int32_t column_ = 0;
   int32_t selectionEndRow_ = 0;

@@ -5,12 +5,12 @@
 
 #include "cartstore/LoadCartInfo.h"
 #include "common/ErrorState.h"
-#include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
 #include "common/Lookalikes.h"
 #include "common/Numbers.h"
 #include "common/PathText.h"
 #include "common/TextHelpers.h"
+#include "common/TextLines.h"
 #include "common/TimeText.h"
 #include "common/UserInterface.h"
 #include "platform/Platform.h"
@@ -42,50 +42,63 @@ class GridFiller {
   }
 
   // `position` is where the line began in the file, counted from 1.
-  void Add(const std::string& text, int64_t position) {
+  void Add(std::string_view text, int64_t position) {
     if (Trim(text).empty()) {
       EndBreak();
       return;
     }
     const LogLine line(text);
-    if (chainCode_.empty() || line.TXChainCode() == chainCode_) AddAdvert(line, position);
+    if (Counts(line)) AddAdvert(line, position);
   }
 
  private:
+  // Whether the line is of the split's chain. Most lines have the code of the one before.
+  bool Counts(const LogLine& line) {
+    if (chainCode_.empty()) return true;
+    if (line.TXChainColumns() != lastColumns_) {
+      lastColumns_ = line.TXChainColumns();
+      lastCounts_ = line.TXChainCode() == chainCode_;
+    }
+    return lastCounts_;
+  }
+
   void AddAdvert(const LogLine& line, int64_t position) {
-    grid_.SetText(row_, kPositionColumn, std::to_string(position));
     if (!inBreak_) {
       inBreak_ = true;
-      grid_.SetText(
-          row_, kTimeColumn,
-          FormatTimeDisplay(line.Time(), kMaskHoursMinutesSeconds).substr(0, kTimeTextLength));
+      const TimeDisplay time = TimeDisplay::OfTime(line.Time(), kMaskHoursMinutesSeconds);
+      grid_.SetText(row_, kTimeColumn, std::string_view(time).substr(0, kTimeTextLength));
     }
-    grid_.SetText(row_, kDescriptionColumn, line.Description());
-    const int32_t cart = line.Cart();
-    grid_.SetText(row_, kCartColumn, std::to_string(cart));
-    grid_.SetText(row_, kReferenceColumn, line.Reference());
-    CartInfo info;
-    LoadCartInfo(info, cart);
+    AdvertCells cells;
+    cells.position = position;
+    cells.description = line.Description();
+    cells.reference = line.Reference();
+    cells.cart = line.Cart();
+    cells.length = kNoTimeText;
+    cells.lengthColour = kRed;
+    CartLengths cart;
+    LoadCartLengths(cart, cells.cart);
+    TimeDisplay length;
+    if (cart.PlayLength > 0) {
+      length = TimeDisplay::OfLength(cart.Length, LengthMask(gGeneralSettings.DisplayAdvertHH));
+      cells.length = length;
+      cells.lengthColour = kWhite;
+      breakTotal_ += cart.Length;
+    }
     grid_.SetColumn(kLengthColumn);
-    if (info.PlayLength > 0) {
-      grid_.SetCellBackColour(kWhite);
-      grid_.SetCellText(
-          FormatLengthDisplay(info.Length, LengthMask(gGeneralSettings.DisplayAdvertHH)));
-      breakTotal_ += info.Length;
-    } else {
-      grid_.SetCellBackColour(kRed);
-      grid_.SetCellText(kNoTimeText);
-    }
+    grid_.SetAdvert(row_, cells);
     ++row_;
   }
 
   void EndBreak() {
     grid_.SetText(row_, kPositionColumn, "");
     if (!inBreak_) return;
-    grid_.SetText(row_, kLengthColumn,
-                  breakTotal_ > 0 ? FormatLengthDisplay(breakTotal_,
-                                                        LengthMask(gGeneralSettings.DisplayBreakHH))
-                                  : kNoTimeText);
+    if (breakTotal_ > 0) {
+      grid_.SetText(
+          row_, kLengthColumn,
+          TimeDisplay::OfLength(breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH)));
+    } else {
+      grid_.SetText(row_, kLengthColumn, kNoTimeText);
+    }
     row_ += 2;
     breakTotal_ = 0;
     inBreak_ = false;
@@ -96,6 +109,9 @@ class GridFiller {
   int32_t row_ = 1;
   bool inBreak_ = false;
   float breakTotal_ = 0;  // seconds, rounded to single precision at each addition
+  // What an empty line would have in the columns of the code.
+  std::string lastColumns_;
+  bool lastCounts_ = chainCode_.empty();
 };
 
 // Holds back the grid's painting for as long as it lives.
@@ -110,8 +126,13 @@ class PaintingHeldBack {
   LogGrid& grid_;
 };
 
+[[noreturn]] void StopWith(int32_t error) {
+  Succeeded(error);
+  throw RunTimeError(error, "");
+}
+
 void RequireSuccess(int32_t error) {
-  if (!Succeeded(error)) throw RunTimeError(error, "");
+  if (error != kNoError) StopWith(error);
 }
 
 }  // namespace
@@ -166,20 +187,18 @@ void SplitLog::ShowOpenLog() {
 void SplitLog::FillGrid() {
   const SplitSettings& settings = SettingsOf(splitNumber_);
   const int16_t file = settings.LogFileNumber;
-  Files& files = Os().files;
-  RequireSuccess(files.Seek(file, 1));
+  RequireSuccess(Os().files.Seek(file, 1));
   gridLog.SetRows(kRowsAtFirst);
   GridFiller filler(gridLog, settings.LogTXChainCode);
-  std::string line;
+  TextLines lines(file);
   while (true) {
     bool atEnd = false;
-    RequireSuccess(files.EndOfFile(file, &atEnd));
+    RequireSuccess(lines.AtEnd(&atEnd));
     if (atEnd) break;
     filler.PrepareRow();
-    int64_t position = 0;
-    RequireSuccess(files.Position(file, &position));
+    const int64_t position = lines.Position();
     ClearError();
-    ReadTextLine(file, line);
+    const std::string_view line = lines.Next();
     // A log of which a part can't be read must not pass for a short one.
     RequireSuccess(gErrorState.Number);
     filler.Add(line, position);

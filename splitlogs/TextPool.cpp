@@ -1,28 +1,49 @@
 #include "splitlogs/TextPool.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstring>
+#include <limits>
+
+#include "common/ErrorState.h"
 
 namespace logchecker {
 
-std::string_view TextPool::Keep(std::string_view text) {
-  constexpr size_t kChunk = size_t{32} * 1024;
-  if (text.empty()) return {};
-  if (text.size() > left_) {
-    left_ = std::max(text.size(), kChunk);
-    chunks_.push_back(std::make_unique_for_overwrite<char[]>(left_));
-    next_ = chunks_.back().get();
-  }
-  std::memcpy(next_, text.data(), text.size());
-  const std::string_view kept(next_, text.size());
-  next_ += text.size();
-  left_ -= text.size();
+void TextPool::Grow(size_t size) {
+  constexpr uint64_t kMostPlaces = uint64_t{std::numeric_limits<uint32_t>::max()} + 1;
+  left_ = std::max(size, kChunk);
+  place_ = chunks_.size() * kChunk;
+  if (place_ + left_ > kMostPlaces) throw RunTimeError(kOutOfMemory, "more than 4 GiB of text");
+  chunks_.push_back(std::make_unique_for_overwrite<char[]>(left_));
+  next_ = chunks_.back().get();
+  chunks_.resize(chunks_.size() + (left_ - 1) / kChunk);
+}
+
+PooledText TextPool::Take(size_t size) {
+  const PooledText kept{static_cast<uint32_t>(place_), static_cast<uint32_t>(size)};
+  next_ += size;
+  place_ += size;
+  left_ -= size;
   return kept;
+}
+
+PooledText TextPool::Keep(std::string_view text) {
+  if (text.empty()) return {};
+  if (text.size() > left_) Grow(text.size());
+  std::memcpy(next_, text.data(), text.size());
+  return Take(text.size());
+}
+
+PooledText TextPool::KeepNumber(int64_t number) {
+  constexpr size_t kMostDigits = 20;
+  if (left_ < kMostDigits) Grow(kMostDigits);
+  return Take(static_cast<size_t>(std::to_chars(next_, next_ + left_, number).ptr - next_));
 }
 
 void TextPool::Clear() {
   chunks_.clear();
   next_ = nullptr;
+  place_ = 0;
   left_ = 0;
 }
 

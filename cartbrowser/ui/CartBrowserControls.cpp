@@ -8,9 +8,12 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowsPanel.h"
 #include "cartbrowser/ui/frmCartBrowser.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -49,6 +52,7 @@ int WishedHeight(const QWidget* control) { return ToTwips(control->sizeHint().he
 
 void frmCartBrowser::MakeControls() {
   setObjectName("frmCartBrowser");
+  SetGuidePage(*this, kGuideBrowser);
   setWindowTitle("Cart Browser");
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
@@ -86,6 +90,21 @@ void frmCartBrowser::MakeControls() {
       "descriptions.");
   chkDouble_->installEventFilter(this);
   cmdCancel_ = Named(new QPushButton("Cancel", this), "cmdCancel");
+  DescribeKeys();
+}
+
+// For those who can't see the page of all keys.
+void frmCartBrowser::DescribeKeys() {
+  txtCartNumber_->setAccessibleDescription(
+      "Keys: Enter goes to that cart, and a second time takes it; Up, Down, Page Up and Page Down "
+      "move; F searches, T shows notes, question mark opens the guide, Escape leaves");
+  cmdJumpCart_->setAccessibleDescription("Keys: Enter, J");
+  cmdFindCart_->setAccessibleDescription("Key: F");
+  cmdSmallScroll_[0]->setAccessibleDescription("Key: Up");
+  cmdSmallScroll_[1]->setAccessibleDescription("Key: Down");
+  cmdBigScroll_[0]->setAccessibleDescription("Key: Page Up");
+  cmdBigScroll_[1]->setAccessibleDescription("Key: Page Down");
+  cmdCancel_->setAccessibleDescription("Key: Escape");
 }
 
 QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* icon,
@@ -103,6 +122,11 @@ QToolButton* frmCartBrowser::MakeScrollButton(const QString& name, const char* i
 void frmCartBrowser::ConnectControls() {
   connect(txtCartNumber_, &QLineEdit::textChanged, this,
           [this](const QString& text) { SetJumpText(FromQString(text)); });
+  connect(txtCartNumber_, &QLineEdit::textEdited, this, [this] {
+    if (!pnlCartLabels_->IsTold()) return;
+    pnlCartLabels_->StopTelling();
+    TellFocus(*txtCartNumber_);
+  });
   connect(cmdJumpCart_, &QPushButton::clicked, this,
           [this] { Guarded([this] { JumpClicked(); }); });
   connect(cmdFindCart_, &QPushButton::clicked, this,
@@ -132,16 +156,21 @@ void frmCartBrowser::SetTabOrder() {
   for (size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
 }
 
-// The size that it begins with, and the smallest in which nothing is cut but rows.
-void frmCartBrowser::SetSizes() {
+// The smallest size in which nothing is cut but rows.
+void frmCartBrowser::HoldLeastSize() {
   const int jump = JumpControlsWidth();
   const int scroll = 4 * (WishedHeight(cmdJumpCart_) + kGap);
   const int width = jump + scroll + 4 * kMargin + kControlGap;
-  const int height = ControlsHeight() + BarHeight() + kLeastRowsHeight + 4 * kMargin;
+  const int height = ControlsHeight() + BarHeight() + TableTwips(kLeastRowsHeight) + 4 * kMargin;
   setMinimumSize(ToPixels(width) + 1, ToPixels(height) + 1);
+}
+
+// The size that it begins with.
+void frmCartBrowser::SetSizes() {
+  HoldLeastSize();
   const int left = kDesignHeight - HeightBesideRows();
-  resize(std::max(ToPixels(kDesignWidth), minimumWidth()),
-         ToPixels(kDesignHeight - left + HeightOfWholeRows(left, RowHeight())));
+  const int rows = TableTwips(HeightOfWholeRows(GivenTwips(left), RowHeight()));
+  resize(std::max(ToPixels(kDesignWidth), minimumWidth()), ToPixels(kDesignHeight - left + rows));
 }
 
 // All of the window but the frame of the rows.
@@ -207,10 +236,9 @@ void frmCartBrowser::LayOutJumpControls() {
     left -= kGap;
   }
   const int room = ToTwips(picBrowser_->height()) - TopOfRows() - kGap;
-  Place(pnlCartLabels_, kMargin, TopOfRows(), width - 2 * kMargin,
-        HeightOfWholeRows(room, RowHeight()));
-  LayOutRows(ToTwips(pnlCartLabels_->width()), ToTwips(pnlCartLabels_->height()),
-             pnlCartLabels_->ButtonWidth());
+  const int rows = HeightOfWholeRows(GivenTwips(room), RowHeight());
+  Place(pnlCartLabels_, kMargin, TopOfRows(), width - 2 * kMargin, TableTwips(rows));
+  LayOutRows(GivenTwips(ToTwips(pnlCartLabels_->width())), rows, pnlCartLabels_->ButtonWidth());
 }
 
 void frmCartBrowser::LayOutBar(int top, int width) {

@@ -16,8 +16,10 @@
 #include "common/UnreadableSettings.h"
 #include "common/VersionData.h"
 #include "common/ui/Buttons.h"
+#include "common/ui/CutTextTips.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
@@ -167,11 +169,14 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   display.DisplayIsThere();
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);
+  QApplication::setDesktopFileName("org.logchecker.CartBrowser");
   QApplication::setWindowIcon(IconNamed("program"));
   // The browser is only hidden, and a dialog before it does not end the program.
   QApplication::setQuitOnLastWindowClosed(false);
   KeepBoxesToOneLine();
   HoldButtonRules();
+  HoldGuideKey();
+  HoldCutTextTips();
   return Run(arguments, parts);
 }
 

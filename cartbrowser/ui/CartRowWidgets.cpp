@@ -9,6 +9,7 @@
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
 #include "common/ui/Twips.h"
+#include "common/ui/VisibleText.h"
 
 namespace logchecker {
 
@@ -65,7 +66,9 @@ CartPanel::CartPanel(CartBrowser& browser, int16_t row, QWidget* parent)
 
 void CartPanel::Show(const BrowserRow& row) {
   shown_ = row;
-  setAccessibleName(ToQString(row.Caption).replace('\n', ", "));
+  setAccessibleName(ToVisibleQString(row.Spoken));
+  const bool cut = row.Whole.size() > row.Caption.size();
+  setToolTip(cut ? AsToolTip(ToVisibleQString(row.Whole)) : QString());
   update();
 }
 

@@ -41,6 +41,7 @@ class CartPanel : public QWidget {
   // The row's colours and text. Colours of the system follow the palette when they are drawn.
   void Show(const BrowserRow& row);
   const BrowserRow& Shown() const { return shown_; }
+  int16_t Row() const { return row_; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;

@@ -3,9 +3,12 @@
 #include <QApplication>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "cartbrowser/BrowserRows.h"
+#include "cartbrowser/ui/AccessibleCartRows.h"
 #include "cartbrowser/ui/CartRowWidgets.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -26,7 +29,7 @@ QFont CartRowFont() {
   // The width of a text is then the sum of its characters' widths.
   font.setKerning(false);
   font.setStyleStrategy(QFont::PreferNoShaping);
-  const int room = ToPixels(kDoubleRowHeight) / kLinesOfDoubleRow;
+  const int room = ToPixels(TableTwips(kDoubleRowHeight)) / kLinesOfDoubleRow;
   int size = QFontInfo(font).pixelSize();
   do {
     font.setPixelSize(size);
@@ -36,14 +39,17 @@ QFont CartRowFont() {
 
 CartRowsPanel::CartRowsPanel(CartBrowser& browser, QWidget* parent)
     : QFrame(parent), browser_(browser) {
+  UseAccessibleCartRows();
+  setAccessibleName("Carts");
   setFrameShape(QFrame::Box);
   setFrameShadow(QFrame::Plain);
+  connect(qApp, &QApplication::focusChanged, this, [this] { StopTelling(); });
 }
 
 int CartRowsPanel::ButtonWidth() const {
   const auto digits = static_cast<qsizetype>(CartBrowser::JumpTextMaxLength());
   const int text = QFontMetrics(font()).horizontalAdvance(QString(digits, '0'));
-  return std::max(kLeastButtonWidth, ToTwips(text) + kButtonMargins);
+  return std::max(kLeastButtonWidth, GivenTwips(ToTwips(text)) + kButtonMargins);
 }
 
 // A wheel without notches, or a pad, turns by parts of a row.
@@ -76,20 +82,60 @@ void CartRowsPanel::ShowRow(int16_t row) {
   const RowPlace place = browser_.PlaceOf(row);
   const QString number = ToQString(shown.ButtonCaption);
   widgets.button->setText(number);
-  widgets.button->setAccessibleName(QString("Cart %1").arg(number));
   widgets.button->SetColour(shown.ButtonColour);
-  widgets.button->setGeometry(ToPixels(place.ButtonLeft), ToPixels(place.Top),
-                              ToPixels(ButtonWidth()), ToPixels(place.Height));
+  const int top = ToPixels(TableTwips(place.Top));
+  const int height = ToPixels(TableTwips(place.Top + place.Height)) - top;
+  const int panelLeft = ToPixels(TableTwips(place.PanelLeft));
+  widgets.button->setGeometry(ToPixels(TableTwips(place.ButtonLeft)), top,
+                              ToPixels(TableTwips(ButtonWidth())), height);
   widgets.panel->Show(shown);
-  widgets.panel->setGeometry(ToPixels(place.PanelLeft), ToPixels(place.Top),
-                             ToPixels(place.PanelWidth), ToPixels(place.Height));
+  widgets.panel->setGeometry(panelLeft, top, ToPixels(TableTwips(place.PanelWidth)), height);
   widgets.button->setVisible(shown.Visible);
   widgets.panel->setVisible(shown.Visible);
 }
 
 void CartRowsPanel::ShowButtonColour(int16_t row) {
   if (static_cast<size_t>(row) > rows_.size()) return;
-  rows_[static_cast<size_t>(row) - 1].button->SetColour(browser_.Row(row).ButtonColour);
+  const uint32_t colour = browser_.Row(row).ButtonColour;
+  rows_[static_cast<size_t>(row) - 1].button->SetColour(colour);
+  if (colour != kHighlightColour || std::exchange(marked_, true)) return;
+  // Behind what comes with the move, and once for moves that come together.
+  QMetaObject::invokeMethod(
+      this, [this] { TellCurrentRow(); }, Qt::QueuedConnection);
+}
+
+QWidget* CartRowsPanel::RowAt(int index) const {
+  const bool made = index >= 0 && index < RowsInUse() && index < static_cast<int>(rows_.size());
+  return made ? rows_[static_cast<size_t>(index)].panel : nullptr;
+}
+
+int CartRowsPanel::IndexOf(const QWidget* row) const {
+  const auto* panel = qobject_cast<const CartPanel*>(row);
+  return panel != nullptr && panel->Row() <= RowsInUse() ? panel->Row() - 1 : -1;
+}
+
+bool CartRowsPanel::IsCurrent(const QWidget* row) const {
+  return row != nullptr && row == RowAt(browser_.CurrentRow() - 1);
+}
+
+void CartRowsPanel::MakeCurrent(const QWidget* row) {
+  const int index = IndexOf(row);
+  if (index < 0) return;
+  Guarded([&] { browser_.MakeRowCurrent(static_cast<int16_t>(index + 1)); });
+}
+
+void CartRowsPanel::Take(const QWidget* row) {
+  const int index = IndexOf(row);
+  if (index < 0) return;
+  Guarded([&] { browser_.ButtonClicked(static_cast<int16_t>(index + 1)); });
+}
+
+void CartRowsPanel::TellCurrentRow() {
+  if (!marked_ || !isVisible() || !isActiveWindow()) return;
+  marked_ = false;
+  told_ = true;
+  QWidget* row = RowAt(browser_.CurrentRow() - 1);
+  TellCartRow(row, std::exchange(toldRow_, row));
 }
 
 }  // namespace logchecker

@@ -1,7 +1,9 @@
-// The frame that holds the rows of the cart browser. The last row is cut off at its edge.
+// The frame that holds the rows of the cart browser. The last row is cut off at its edge. To those
+// who can't see it, it is a list, whose current row is told when it has moved.
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -28,6 +30,24 @@ class CartRowsPanel : public QFrame {
   void ShowRows();
   void ShowButtonColour(int16_t row);
 
+  // The rows as a list: how many it has now, and what stands for each, from 0.
+  int RowsInUse() const { return browser_.RowCount(); }
+  QWidget* RowAt(int index) const;
+  // The place of a row in it, or -1.
+  int IndexOf(const QWidget* row) const;
+  bool IsCurrent(const QWidget* row) const;
+  void MakeCurrent(const QWidget* row);
+  void Take(const QWidget* row);
+
+  // The current row has been told as the one that the user is on. That ends when the user types a
+  // number, or goes to another control.
+  bool IsTold() const { return told_; }
+  void StopTelling() { told_ = false; }
+  // Tells the current row, when it has been marked since it was last told and the window is active.
+  void TellCurrentRow();
+  // Whatever has been marked needs no telling.
+  void ForgetMarks() { marked_ = false; }
+
   // The width that the buttons have, in twips.
   int ButtonWidth() const;
 
@@ -45,7 +65,10 @@ class CartRowsPanel : public QFrame {
 
   CartBrowser& browser_;
   std::vector<RowWidgets> rows_;
-  int turned_ = 0;  // by the wheel, what is not a whole row yet
+  bool marked_ = false;  // a row, since one was last told
+  bool told_ = false;
+  QPointer<QWidget> toldRow_;  // the last one that was
+  int turned_ = 0;             // by the wheel, what is not a whole row yet
 };
 
 }  // namespace logchecker

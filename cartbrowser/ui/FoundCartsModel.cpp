@@ -28,7 +28,11 @@ QVariant FoundCartsModel::data(const QModelIndex& index, int role) const {
 QVariant FoundCartsModel::headerData(int section, Qt::Orientation orientation, int role) const {
   const auto column = static_cast<size_t>(section);
   if (orientation != Qt::Horizontal || column >= kFoundColumnCount) return {};
-  if (role == Qt::DisplayRole) return ToQString(FoundColumnHeaders(0)[column].caption);
+  const QString caption = ToQString(FoundColumnHeaders(0)[column].caption);
+  if (role == Qt::DisplayRole) return caption;
+  if (role == Qt::ToolTipRole) {
+    return QString("%1: sort by it with a click or Ctrl+%2").arg(caption).arg(section);
+  }
   if (role == Qt::TextAlignmentRole) return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
   return {};
 }

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "cartbrowser/ui/FoundCartsModel.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Icons.h"
 #include "common/ui/ReportList.h"
@@ -24,6 +25,7 @@ constexpr int kAddedDelay = 50;  // milliseconds
 }  // namespace
 
 FoundCartsView::FoundCartsView(QWidget* parent) : QTreeView(parent) {
+  UseAccessibleTables();
   SetUpReportList(*this);
   setSelectionMode(QAbstractItemView::SingleSelection);
   header()->setSectionsClickable(true);
@@ -42,10 +44,11 @@ void FoundCartsView::SetSearch(FindCart& search) {
 }
 
 void FoundCartsView::SetColumnWidths(int listWidth) {
-  const auto headers = FoundColumnHeaders(listWidth);
+  const auto headers = FoundColumnHeaders(GivenTwips(listWidth));
   for (size_t column = 0; column < headers.size(); ++column) {
     if (headers[column].width == 0) continue;
-    setColumnWidth(static_cast<int>(column), std::max(ToPixels(headers[column].width), 1));
+    setColumnWidth(static_cast<int>(column),
+                   std::max(ToPixels(TableTwips(headers[column].width)), 1));
   }
 }
 
@@ -114,9 +117,26 @@ void FoundCartsView::ShowSortMark() {
       *column, search_->results().Descending() ? Qt::DescendingOrder : Qt::AscendingOrder);
 }
 
+void FoundCartsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
+}
+
+void FoundCartsView::MakeRowCurrent(int row) {
+  ShowAddedRows();
+  setCurrentIndex(model_->index(row, kFoundNumber));
+}
+
+void FoundCartsView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  search_->Choose();
+}
+
 void FoundCartsView::selectionChanged(const QItemSelection& selected,
                                       const QItemSelection& deselected) {
-  QTreeView::selectionChanged(selected, deselected);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own tells of hidden columns
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
   if (following_ || search_ == nullptr) return;
   const QScopedValueRollback<bool> following(following_, true);
   const QModelIndexList rows = selectionModel()->selectedRows(kFoundNumber);

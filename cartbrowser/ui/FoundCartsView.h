@@ -7,12 +7,13 @@
 #include <vector>
 
 #include "cartbrowser/FindCart.h"
+#include "common/ui/AccessibleTable.h"
 
 namespace logchecker {
 
 class FoundCartsModel;
 
-class FoundCartsView : public QTreeView {
+class FoundCartsView : public QTreeView, public RowChooser {
   Q_OBJECT
 
  public:
@@ -32,6 +33,9 @@ class FoundCartsView : public QTreeView {
   // on.
   void SetColumnWidths(int listWidth);
 
+  void MakeRowCurrent(int row) override;
+  void ChooseRow(int row) override;
+
   // The number of the cart that was last dragged.
   std::string Tag;
 
@@ -43,6 +47,7 @@ class FoundCartsView : public QTreeView {
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:

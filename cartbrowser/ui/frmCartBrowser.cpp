@@ -14,7 +14,9 @@
 #include "cartbrowser/ui/KeyPreview.h"
 #include "cartbrowser/ui/frmFindCart.h"
 #include "common/FitTextToWidth.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -78,7 +80,7 @@ void frmCartBrowser::TakeFont() {
   for (size_t code = 0; code < kCharacters; ++code) {
     const auto character = static_cast<char>(code);
     const QString text = ToVisibleQString(std::string_view(&character, 1));
-    characterWidths_[code] = metrics.horizontalAdvance(text) * kTwipsPerPixel;
+    characterWidths_[code] = metrics.horizontalAdvance(text) * kTwipsPerPixel / TableScale();
   }
 }
 
@@ -97,12 +99,16 @@ bool frmCartBrowser::event(QEvent* event) {
     // A number that the user is in the midst of typing stays as it is.
     if (!Activated() || focusWidget() != txtCartNumber_) Guarded([this] { Activate(); });
     KeepFrameOnScreen();
+    pnlCartLabels_->TellCurrentRow();
   }
+  const bool taken = QDialog::event(event);
+  // By now the controls have the font.
   if (event->type() == QEvent::ApplicationFontChange) {
     TakeFont();
-    LayOut();
+    HoldLeastSize();
+    Guarded([this] { LayOut(); });
   }
-  return QDialog::event(event);
+  return taken;
 }
 
 // How wide the frame of the window is can be known only when the window has been shown.
@@ -119,6 +125,8 @@ void frmCartBrowser::showEvent(QShowEvent* event) {
   // The size has its rows already, from the first showing or the last change.
   if (pnlDescription_->isHidden() == ShowDescription) Guarded([this] { LayOut(); });
   Guarded([this] { Activate(); });
+  // Who comes in begins in the box for a number.
+  pnlCartLabels_->ForgetMarks();
 }
 
 void frmCartBrowser::hideEvent(QHideEvent* event) {
@@ -156,6 +164,11 @@ bool frmCartBrowser::eventFilter(QObject* watched, QEvent* event) {
 bool frmCartBrowser::OnKey(const QKeyEvent& key) {
   if (KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier))) return true;
   const char character = CharacterOf(key);
+  // F1 is one of the store's own keys here.
+  if (character == '?') {
+    OpenGuide(this);
+    return true;
+  }
   if (character != 0 && KeyPress(character)) return true;
   return focusWidget() == txtCartNumber_ && TypesACharacter(key) && !JumpBoxTakes(character);
 }

@@ -70,9 +70,11 @@ class frmCartBrowser : public QDialog, private CartBrowserFace, public CartBrows
 
   void MakeControls();
   QToolButton* MakeScrollButton(const QString& name, const char* icon, const QString& spoken);
+  void DescribeKeys();
   void ConnectControls();
   void DoubleChanged();
   void SetTabOrder();
+  void HoldLeastSize();
   void SetSizes();
   // All in twips.
   int ControlsHeight() const;

@@ -8,6 +8,7 @@
 #include "cartbrowser/ui/KeyPreview.h"
 #include "common/SystemHelpers.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
@@ -28,6 +29,7 @@ frmFindCart::frmFindCart(QWidget* parent)
       FindCart(static_cast<FindCartFace&>(*this)),
       ui_(std::make_unique<Ui::frmFindCart>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSearch);
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);
   FillLists();
@@ -36,9 +38,7 @@ frmFindCart::frmFindCart(QWidget* parent)
   new KeyPreview(*this, [this](const QKeyEvent& key) { return OnKey(key); });
   Load();
   OpenAnimation();
-  const QMargins margins = layout()->contentsMargins();
-  const int width = std::max(this->width(), layout()->minimumSize().width());
-  ui_->lviewItems->SetColumnWidths(ToTwips(width - margins.left() - margins.right()));
+  FitTextSize();
   frmFindCart::ShowControls();
 }
 
@@ -59,8 +59,21 @@ void frmFindCart::FillLists() {
   ui_->cmbSearchText->lineEdit()->setAccessibleName(ui_->cmbSearchText->accessibleName());
   TakeStationTextOnly(*ui_->cmbSearchText->lineEdit());
   ui_->lviewItems->SetSearch(*this);
+  ui_->lviewItems->setAccessibleDescription(
+      "Keys: Enter goes to the cart, Ctrl+1 to Ctrl+5 sort by a column, a second time the other "
+      "way round");
+  ui_->tabFind->setAccessibleDescription("Key: Ctrl+Tab");
+  ui_->cmdFind->setAccessibleDescription("Key: Enter");
+  ui_->cmdStop->setAccessibleDescription("Key: Escape");
+}
+
+void frmFindCart::FitTextSize() {
   const QLineEdit& box = *ui_->mskLength;
   ui_->mskLength->setMaximumWidth(box.fontMetrics().horizontalAdvance("00:00") + kLengthMargins);
+  layout()->invalidate();
+  const QMargins margins = layout()->contentsMargins();
+  const int width = std::max(this->width(), layout()->minimumSize().width());
+  ui_->lviewItems->SetColumnWidths(ToTwips(width - margins.left() - margins.right()));
 }
 
 void frmFindCart::OpenAnimation() {
@@ -111,14 +124,34 @@ void frmFindCart::OnFind() {
   Find();
 }
 
+// Ctrl and a digit do what a click on that column's heading does, counted as they are seen.
+bool frmFindCart::SortByKey(const QKeyEvent& key) {
+  const int column = key.key() - Qt::Key_0;
+  const bool sorts = (key.modifiers() & ~Qt::KeypadModifier) == Qt::ControlModifier &&
+                     column >= static_cast<int>(kFoundNumber) &&
+                     column <= static_cast<int>(kFoundLength);
+  if (!sorts || !view().ResultsVisible) return false;
+  ui_->lviewItems->ShowAddedRows();
+  ClickHeader(static_cast<FoundColumn>(column));
+  return true;
+}
+
 bool frmFindCart::OnKey(const QKeyEvent& key) {
+  if (SortByKey(key)) return true;
   return KeyDown(KeyCodeOf(key), key.modifiers().testFlag(Qt::ControlModifier));
 }
 
 bool frmFindCart::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) ShowHeight();  // by now the frame is there
   if (event->type() == QEvent::ApplicationPaletteChange) ColourBoxes();
-  return QDialog::event(event);
+  const bool taken = QDialog::event(event);
+  // By now the controls have the font.
+  if (event->type() == QEvent::ApplicationFontChange) {
+    FitTextSize();
+    shownHeight_ = 0;
+    ShowHeight();
+  }
+  return taken;
 }
 
 void frmFindCart::showEvent(QShowEvent* event) {

@@ -40,10 +40,12 @@ class frmFindCart : public QDialog, private FindCartFace, public FindCart {
   void Hide() override;
 
   void FillLists();
+  void FitTextSize();
   void ConnectControls();
   void OpenAnimation();
   void OnFind();
   bool OnKey(const QKeyEvent& key);
+  bool SortByKey(const QKeyEvent& key);
   void ShowInput();
   void ShowHistory();
   void ShowEnabled();

@@ -12,6 +12,8 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
+#include "common/ui/LeastWidth.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
 #include "dialogs/ui/BrowseForFolder.h"
@@ -22,6 +24,8 @@
 namespace logchecker {
 
 namespace {
+
+constexpr int kLeastWidth = 560;  // pixels
 
 std::string TrimmedUpper(const std::string& text) { return ToUpper(Trim(text)); }
 
@@ -34,6 +38,8 @@ void DropLastBackslash(std::string& text) {
 frmCartLocations::frmCartLocations(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmCartLocations>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideCarts);
+  HoldLeastWidth(*this, kLeastWidth);
   connect(ui_->chkUseOneCartLocation, &QCheckBox::toggled, this,
           [this](bool one) { OnOneLocation(one); });
   for (int16_t part = 1; part <= kAudiowallParts; ++part) {

@@ -12,9 +12,11 @@
 
 #include "common/Numbers.h"
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/CompactHeader.h"
 #include "common/ui/ReportList.h"
 #include "common/ui/StationQString.h"
+#include "common/ui/TextSizeWatch.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -35,14 +37,16 @@ constexpr int kWidestHeading = 2;  // times that text
 
 ResultsView::ResultsView(ListView& list, QWidget* parent)
     : QTreeView(parent), list_(list), model_(new ListViewModel(list, this)) {
+  UseAccessibleTables();
   SetUpReportList(*this);
   setModel(model_);
   setSelectionMode(QAbstractItemView::ExtendedSelection);
   headings_ = qobject_cast<CompactHeader*>(header());
   headings_->SetTwoLines(true);
+  WhenTextSizeChanges(*this, [this] { TakeTextSize(); });
   connect(header(), &QHeaderView::sectionResized, this, [this](int column, int /*old*/, int width) {
     if (sharing_) return;
-    list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = GivenTwips(ToTwips(width));
     dragged_ = true;
   });
 }
@@ -67,15 +71,28 @@ std::string ResultsView::KeyOfSelectedRow() const {
   return row < list_.ListItems.size() ? list_.ListItems[row].key : "";
 }
 
+void ResultsView::SelectRow(size_t row) {
+  const QModelIndex index = model_->index(static_cast<int>(row), 0);
+  selectionModel()->setCurrentIndex(
+      index, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+  scrollTo(index);
+}
+
 void ResultsView::ShareColumns(bool keepFirst) {
   if (model_->columnCount() < 1) return;
   dragged_ = false;
   if (!keepFirst) {
     const QScopedValueRollback<bool> sharing(sharing_, true);
-    setColumnWidth(0, ToPixels(list_.ColumnHeaders.front().width));
+    setColumnWidth(0, ToPixels(TableTwips(list_.ColumnHeaders.front().width)));
   }
   if (faces_.empty()) MeasureTexts();
   GiveWidths();
+}
+
+// A width that the user gave a column was for texts of another size.
+void ResultsView::TakeTextSize() {
+  faces_.clear();
+  ShareColumns(false);
 }
 
 void ResultsView::FitColumns() {
@@ -126,8 +143,8 @@ void ResultsView::UseFace(const QFont& font) {
 }
 
 int32_t ResultsView::EvenShare() const {
-  const int left =
-      ToTwips(width()) - kFrameWidth - kScrollBarWidth - list_.ColumnHeaders.front().width;
+  const int first = TableTwips(list_.ColumnHeaders.front().width);
+  const int left = ToTwips(width()) - kFrameWidth - kScrollBarWidth - first;
   return ToInt32(static_cast<double>(left) / (model_->columnCount() - 1));
 }
 
@@ -156,7 +173,7 @@ void ResultsView::GiveWidths() {
 void ResultsView::GiveEvenShares(const Face& face, int32_t share) {
   UseFace(face.font);
   for (int column = 1; column < model_->columnCount(); ++column) {
-    list_.ColumnHeaders[static_cast<size_t>(column)].width = share;
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = GivenTwips(share);
     setColumnWidth(column, std::max(share / kTwipsPerPixel, 1));
   }
 }
@@ -168,7 +185,7 @@ void ResultsView::GiveNeededWidths(const Face& face, int room) {
   const int spare = std::max(room - face.Sum(), 0) / columns;
   for (int column = 1; column <= columns; ++column) {
     const int width = face.widths[static_cast<size_t>(column - 1)] + spare;
-    list_.ColumnHeaders[static_cast<size_t>(column)].width = ToTwips(width);
+    list_.ColumnHeaders[static_cast<size_t>(column)].width = GivenTwips(ToTwips(width));
     setColumnWidth(column, width);
   }
 }
@@ -176,11 +193,6 @@ void ResultsView::GiveNeededWidths(const Face& face, int room) {
 int ResultsView::Face::Widest() const { return *std::max_element(widths.begin(), widths.end()); }
 
 int ResultsView::Face::Sum() const { return std::accumulate(widths.begin(), widths.end(), 0); }
-
-bool ResultsView::event(QEvent* event) {
-  if (event->type() == QEvent::ApplicationFontChange) FitColumns();
-  return QTreeView::event(event);
-}
 
 void ResultsView::mouseReleaseEvent(QMouseEvent* event) {
   QTreeView::mouseReleaseEvent(event);
@@ -202,9 +214,23 @@ void ResultsView::keyPressEvent(QKeyEvent* event) {
   QTreeView::keyPressEvent(event);
 }
 
+void ResultsView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
+}
+
+void ResultsView::MakeRowCurrent(int row) { setCurrentIndex(model_->index(row, 0)); }
+
+void ResultsView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit rowChosen();
+}
+
 void ResultsView::selectionChanged(const QItemSelection& selected,
                                    const QItemSelection& deselected) {
-  QTreeView::selectionChanged(selected, deselected);
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own counts headings in its own way
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
   const auto mark = [this](const QItemSelection& ranges, bool on) {
     for (const QItemSelectionRange& range : ranges) {
       for (int row = range.top(); row <= range.bottom(); ++row) {

@@ -8,13 +8,14 @@
 #include <vector>
 
 #include "common/ListView.h"
+#include "common/ui/AccessibleTable.h"
 #include "common/ui/ListViewModel.h"
 
 namespace logchecker {
 
 class CompactHeader;
 
-class ResultsView : public QTreeView {
+class ResultsView : public QTreeView, public RowChooser {
   Q_OBJECT
 
  public:
@@ -27,6 +28,8 @@ class ResultsView : public QTreeView {
 
   // The key of the selected row, of several the one that was last gone to; empty without any.
   std::string KeyOfSelectedRow() const;
+  // Makes this row, counted from 0, the only selected one, and brings it into view.
+  void SelectRow(size_t row);
 
   // Gives all columns but the first even shares of what that one leaves. The first one takes its
   // width from the list unless it is to keep the one that it has. A width that the user gives a
@@ -40,14 +43,17 @@ class ResultsView : public QTreeView {
   // width.
   void FitColumns();
 
+  void MakeRowCurrent(int row) override;
+  void ChooseRow(int row) override;
+
  signals:
   // A single click in the list, or Enter in it.
   void rowChosen();
 
  protected:
-  bool event(QEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
   void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
 
  private:
@@ -60,6 +66,7 @@ class ResultsView : public QTreeView {
     int Sum() const;
   };
 
+  void TakeTextSize();
   void MeasureTexts();
   std::vector<int> WidthsIn(const QFont& font, bool twoLines) const;
   void UseFace(const QFont& font);

@@ -7,14 +7,17 @@
 #include <QShortcut>
 #include <QToolButton>
 #include <utility>
+#include <vector>
 
 #include "checking/ExportFolder.h"
 #include "checking/ExportListViewToCSV.h"
 #include "checking/ui/ResultsView.h"
 #include "common/PathText.h"
+#include "common/TimeText.h"
 #include "common/UserInterface.h"
-#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
@@ -34,12 +37,14 @@ constexpr int kListTop = 660;
 constexpr int kProgressHeight = 240;
 
 constexpr int kIconPixels = 17;
+constexpr int kSmallestHeading = 9;  // pixels
 
 }  // namespace
 
 frmCheckBreaks::frmCheckBreaks(std::function<int32_t()> day)
     : day_(std::move(day)), inner_(new QWidget) {
   setObjectName("frmCheckBreaks");
+  SetGuidePage(*this, kGuideWhy);
   setAttribute(Qt::WA_DeleteOnClose);
   setWindowTitle("Check Split Times");
   setWindowIcon(IconNamed("check-day"));
@@ -59,6 +64,9 @@ void frmCheckBreaks::BuildControls() {
   lvwResults_ = new ResultsView(check_.lvwResults, inner_);
   lvwResults_->setObjectName("lvwResults");
   lvwResults_->setAccessibleName(Label1_->text());
+  lvwResults_->setAccessibleDescription(
+      "Keys: Enter lines all splits up on the row, F8 and Shift+F8 go to the next and the previous "
+      "one, Escape closes");
   lvwResults_->move(ToPixels(kMargin), ToPixels(kListTop));
   connect(lvwResults_, &ResultsView::rowChosen, this, [this] { OnRowChosen(); });
 
@@ -102,6 +110,7 @@ void frmCheckBreaks::BuildControls() {
   cmdSave_ = button("cmdSave", "save", "Save", "Export to a CSV File");
   cmdPrint_ = button("cmdPrint", "print", "Print", "Print the Report");
   connect(cmdSave_, &QToolButton::clicked, this, [this] { OnSave(); });
+  cmdPrint_->setAccessibleDescription(cmdPrint_->toolTip() + ". Key: Ctrl+P");
   connect(cmdPrint_, &QToolButton::clicked, this, [this] { PrintDetails(); });
 }
 
@@ -113,6 +122,11 @@ void frmCheckBreaks::Load(const QSize& clientArea) {
   resize(ToPixels(kDesignWidth), height());
   show();
   Ui().Yield();
+}
+
+void frmCheckBreaks::changeEvent(QEvent* event) {
+  ChildWindow::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitTexts();
 }
 
 QWidget* frmCheckBreaks::FirstControl() { return lvwResults_; }
@@ -137,9 +151,14 @@ void frmCheckBreaks::LayOut() {
 // The heading takes a smaller font where it would not fit, and the panel's words stand in one line
 // where there is room for it.
 void frmCheckBreaks::FitTexts() {
+  const auto fits = [this] {
+    return Label1_->heightForWidth(Label1_->width()) <= Label1_->height();
+  };
   Label1_->setFont(font());
-  if (Label1_->heightForWidth(Label1_->width()) > Label1_->height()) {
-    Label1_->setFont(CompactFont());
+  QFont smaller = CompactFont();
+  for (int size = smaller.pixelSize(); !fits() && size >= kSmallestHeading; --size) {
+    smaller.setPixelSize(size);
+    Label1_->setFont(smaller);
   }
   auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
   const int room = picNoResults_->width() - ToPixels(4 * kButtonSize);
@@ -180,6 +199,9 @@ void frmCheckBreaks::ShowOutcome() {
   cmdSave_->setEnabled(check_.cmdSaveEnabled);
   picNoResults_->setVisible(check_.picNoResultsVisible);
   if (check_.picNoResultsVisible) picNoResults_->raise();
+  // The list has the focus, whatever lies over it.
+  const auto* words = picNoResults_->findChild<QLabel*>("lblNoResultsDesc");
+  lvwResults_->setAccessibleName(check_.picNoResultsVisible ? words->text() : Label1_->text());
   // Esc, the arrows and Enter are for the outcome, whichever control asked for the check.
   lvwResults_->setFocus();
 }
@@ -188,6 +210,30 @@ void frmCheckBreaks::OnRowChosen() {
   const std::string key = lvwResults_->KeyOfSelectedRow();
   if (key.empty()) return;
   Guarded([&] { SelectBreakInActiveSplits(TimeOfResultKey(key)); });
+}
+
+std::string frmCheckBreaks::GoToMismatch(MismatchStep step, std::optional<float> time) {
+  const std::vector<ListItem>& rows = check_.lvwResults.ListItems;
+  if (rows.empty()) return "There were no problems found.";
+  const std::string selected = lvwResults_->KeyOfSelectedRow();
+  if (!time && !selected.empty()) time = TimeOfResultKey(selected);
+  const auto at = [&](size_t row) { return TimeOfResultKey(rows[row].key); };
+  std::optional<size_t> found;
+  for (size_t row = 0; row < rows.size(); ++row) {
+    const bool here = time && selected.empty() && at(row) == *time;
+    if (step == MismatchStep::kNext && (!time || here || at(row) > *time)) {
+      found = row;
+      break;
+    }
+    if (step == MismatchStep::kPrevious && (!time || here || at(row) < *time)) found = row;
+  }
+  if (!found) {
+    return (step == MismatchStep::kNext ? "No mismatch after " : "No mismatch before ") +
+           FormatTimeDisplay(*time, kMaskHoursMinutes);
+  }
+  lvwResults_->SelectRow(*found);
+  OnRowChosen();
+  return "";
 }
 
 // Without a word where the dialog is cancelled, and where the writing fails part way: then only the

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "checking/BreakCheck.h"
@@ -16,6 +17,8 @@ class QToolButton;
 namespace logchecker {
 
 class ResultsView;
+
+enum class MismatchStep { kNext, kPrevious };
 
 // Goes when the user closes it; a later check reuses it while it stands.
 class frmCheckBreaks : public ChildWindow {
@@ -33,6 +36,10 @@ class frmCheckBreaks : public ChildWindow {
   void CheckBreaks();
   // Asks for a printer and sends it the list, or its selected rows.
   void PrintDetails();
+  // Selects the mismatch behind or before `time` in seconds, without it the one beside the selected
+  // row, and lines every active split up on it, as a click does. One at `time` itself is gone to
+  // while no row is selected. Leaves the focus alone. Empty, or why there was none to go to.
+  std::string GoToMismatch(MismatchStep step, std::optional<float> time);
 
   // The size that it begins with, in twips.
   static constexpr int kDesignWidth = 5000;
@@ -41,6 +48,7 @@ class frmCheckBreaks : public ChildWindow {
  protected:
   void LayOut() override;
   QWidget* FirstControl() override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void BuildControls();

@@ -1,8 +1,14 @@
 #include "common/ui/CellDelegate.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
+#include "common/ui/CompactFont.h"
+#include "common/ui/Contrast.h"
+#include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -10,11 +16,6 @@ namespace logchecker {
 namespace {
 
 constexpr int kMarkerWidth = 3;  // of the bar that shows the selection in a coloured cell
-
-constexpr int kTimeColumnWidth = 500;  // twips, of the narrowest column of times
-constexpr int kTimeCellMargins = 5;    // pixels beside the time's text, the grid line included
-constexpr int kSmallestFont = 9;       // pixels
-constexpr int kRowMargins = 4;         // pixels above and below a row's text
 
 // Of a cell that is set off, on a light and on a dark background.
 constexpr QRgb kTintOnLight = qRgb(255, 232, 178);
@@ -57,20 +58,22 @@ int CellMargin(const QFontMetrics& metrics) {
   return qMax((metrics.averageCharWidth() + 1) / kCharactersPart, 1);
 }
 
-QFont CompactFont() {
-  QFont fitted = QApplication::font();
-  int size = QFontInfo(fitted).pixelSize();
-  const int room = ToPixels(kTimeColumnWidth) - kTimeCellMargins;
-  do {
-    fitted.setPixelSize(size);
-  } while (QFontMetrics(fitted).horizontalAdvance("00:00") > room && --size >= kSmallestFont);
-  return fitted;
-}
-
-int CompactRowHeight() { return QFontMetrics(CompactFont()).height() + kRowMargins; }
-
 QSize CellDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const {
   return {QStyledItemDelegate::sizeHint(option, index).width(), CompactRowHeight()};
+}
+
+bool CellDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                             const QStyleOptionViewItem& option, const QModelIndex& index) {
+  QStyleOptionViewItem cell = option;
+  initStyleOption(&cell, index);
+  const int room = cell.rect.width() - 2 * CellMargin(cell.fontMetrics) + 1;
+  const QString whole = cell.text.trimmed();
+  if (event->type() != QEvent::ToolTip || index.data(Qt::ToolTipRole).isValid() ||
+      cell.fontMetrics.horizontalAdvance(whole) <= room) {
+    return QStyledItemDelegate::helpEvent(event, view, option, index);
+  }
+  QToolTip::showText(event->globalPos(), AsToolTip(whole), view->viewport(), cell.rect);
+  return true;
 }
 
 void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
@@ -87,11 +90,13 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->fillRect(cell.rect, own.value<QColor>());
     text = index.data(Qt::ForegroundRole).value<QColor>();
     if (selected) {
+      const QColor highlight = cell.palette.color(group, QPalette::Highlight);
       painter->fillRect(QRect(cell.rect.topLeft(), QSize(kMarkerWidth, cell.rect.height())),
-                        cell.palette.color(group, QPalette::Highlight));
+                        SeenOn(own.value<QColor>(), highlight, text));
     }
   } else if (selected) {
-    painter->fillRect(cell.rect, cell.palette.color(group, QPalette::Highlight));
+    painter->fillRect(cell.rect,
+                      ReadableUnder(text, cell.palette.color(group, QPalette::Highlight)));
   }
   if (index.data(kSetOffRole).toBool()) SetOff(*painter, cell, text);
   painter->setPen(text);

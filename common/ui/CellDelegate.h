@@ -6,12 +6,6 @@
 
 namespace logchecker {
 
-// The font of such tables: the program's own, made smaller until a time of day fits its column,
-// since the columns' widths are given.
-QFont CompactFont();
-// What a row of that font takes, in pixels.
-int CompactRowHeight();
-
 // What is left free on each side of a cell's text, in pixels: less in a narrower face.
 int CellMargin(const QFontMetrics& metrics);
 
@@ -27,6 +21,9 @@ class CellDelegate : public QStyledItemDelegate {
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option,
              const QModelIndex& index) const override;
+  // The whole of a text that is cut, where the cell has no tool tip of its own.
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override;
   QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 };
 

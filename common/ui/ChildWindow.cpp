@@ -1,5 +1,6 @@
 #include "common/ui/ChildWindow.h"
 
+#include "common/ui/TitleBarStyle.h"
 #include "common/ui/Twips.h"
 
 namespace logchecker {
@@ -13,6 +14,8 @@ constexpr int kLeastWidth = 3000;
 constexpr int PixelsThatHold(int twips) { return (twips + kTwipsPerPixel - 1) / kTwipsPerPixel; }
 
 }  // namespace
+
+ChildWindow::ChildWindow() { setStyle(ReadableTitleBars()); }
 
 // Setting a size raises the event again, which completes the layout: the height comes first. A
 // maximised window is not held to the least sizes.

@@ -9,7 +9,7 @@ class ChildWindow : public QMdiSubWindow {
   Q_OBJECT
 
  public:
-  ChildWindow() = default;
+  ChildWindow();
 
  protected:
   // Called at each change of the window's size, unless it is minimised, or smaller than it may be.

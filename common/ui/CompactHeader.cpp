@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 
 namespace logchecker {
 

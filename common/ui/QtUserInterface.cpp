@@ -5,6 +5,7 @@
 #include <QProgressDialog>
 #include <utility>
 
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 
 namespace logchecker {
@@ -55,6 +56,9 @@ QtUserInterface::~QtUserInterface() {
 MessageAnswer QtUserInterface::Show(const Message& message) {
   QMessageBox box(QApplication::activeWindow());
   box.setObjectName("MsgBox");
+  if (message.icon == MessageIcon::kCritical || message.icon == MessageIcon::kExclamation) {
+    SetGuidePage(box, kGuideTrouble);
+  }
   box.setTextFormat(Qt::PlainText);
   box.setText(ToQString(message.text));
   box.setWindowTitle(AsTitle(ToQString(message.title)));

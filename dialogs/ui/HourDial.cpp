@@ -16,11 +16,13 @@ constexpr int kWholeTurn = 360 * 16;  // in the painter's unit
 
 }  // namespace
 
-HourDial::HourDial(QWidget* parent) : QWidget(parent) {}
+HourDial::HourDial(QWidget* parent) : QWidget(parent) { UseTurnedNumbers(); }
 
 void HourDial::SetHour(int32_t hour) {
   hour_ = hour;
   setAccessibleDescription(hour < 0 ? QString() : QString::number(hour));
+  QAccessibleValueChangeEvent changed(this, hour);
+  QAccessible::updateAccessibility(&changed);
   update();
 }
 

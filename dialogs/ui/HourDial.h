@@ -4,9 +4,11 @@
 #include <QWidget>
 #include <cstdint>
 
+#include "dialogs/ui/TurnedNumber.h"
+
 namespace logchecker {
 
-class HourDial : public QWidget {
+class HourDial : public QWidget, public TurnedNumber {
   Q_OBJECT
 
  public:
@@ -16,9 +18,17 @@ class HourDial : public QWidget {
   void SetHour(int32_t hour);
   int32_t Hour() const { return hour_; }
 
+  int Number() const override { return hour_; }
+  int LeastNumber() const override { return 0; }
+  int MostNumber() const override { return kLastDialHour; }
+  void TurnTo(int number) override { emit turned(number); }
+  QAccessible::Role Role() const override { return QAccessible::Dial; }
+
  signals:
   void pressed(const QPointF& position);
   void doubleClicked();
+  // The hour is to be another one.
+  void turned(int32_t hour);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -26,6 +36,8 @@ class HourDial : public QWidget {
   void mouseDoubleClickEvent(QMouseEvent* event) override;
 
  private:
+  static constexpr int kLastDialHour = 23;
+
   int32_t hour_ = -1;
 };
 

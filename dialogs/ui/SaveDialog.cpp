@@ -3,10 +3,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMessageBox>
+#include <algorithm>
 
 #include "common/Lookalikes.h"
 #include "common/UserInterface.h"
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 #include "dialogs/ui/HostFolder.h"
 #include "platform/HostPaths.h"
@@ -28,6 +29,7 @@ SaveDialog::SaveDialog(QWidget* owner, const QString& title, const std::vector<F
                        const QString& defaultExtension, const std::string& folder)
     : QFileDialog(owner, title) {
   setObjectName("CommonDialog1");
+  SetGuidePage(*this, kGuideSaveAndPrint);
   // The system's own dialogs keep neither the rule on wildcards nor that on names.
   setOption(QFileDialog::DontUseNativeDialog);
   // Its own question would take a name for markup.
@@ -35,9 +37,8 @@ SaveDialog::SaveDialog(QWidget* owner, const QString& title, const std::vector<F
   setAcceptMode(QFileDialog::AcceptSave);
   setFileMode(QFileDialog::AnyFile);
   setOption(QFileDialog::HideNameFilterDetails);
-  QStringList names;
-  for (const FileFilter& filter : filters) names << filter.text + " (" + filter.pattern + ")";
-  setNameFilters(names);
+  for (const FileFilter& filter : filters) filters_ << filter.text + " (" + filter.pattern + ")";
+  setNameFilters(filters_);
   setDefaultSuffix(defaultExtension);
   const QString start = HostFolder(folder);
   if (!start.isEmpty()) setDirectory(start);
@@ -56,13 +57,32 @@ std::optional<std::string> SaveDialog::Ask(const QString& presetName) {
 void SaveDialog::accept() {
   auto* name = findChild<QLineEdit*>("fileNameEdit");
   if (name != nullptr && HasWildcard(name->text())) {
-    setNameFilter(name->text());
+    FilterBy(name->text());
     name->selectAll();
     return;
   }
   const QStringList files = selectedFiles();
   if (!files.isEmpty() && (EntersFolder(files.constFirst()) || Refuses(files.constFirst()))) return;
   QFileDialog::accept();
+}
+
+// Beside the dialog's own filters, which can still be picked, and in place of the last one that was
+// typed.
+void SaveDialog::FilterBy(const QString& pattern) {
+  const auto offered = std::find_if(filters_.begin(), filters_.end(), [&](const QString& filter) {
+    return filter.endsWith("(" + pattern + ")", Qt::CaseInsensitive);
+  });
+  if (offered != filters_.end()) {
+    selectNameFilter(*offered);
+    return;
+  }
+  // The toolkit takes brackets for the ends of the pattern, and blanks for the ends of one of
+  // several.
+  QString taken = pattern;
+  for (const QChar mark : QString("() ")) taken.replace(mark, '?');
+  const QString typed = pattern + " (" + taken + ")";
+  setNameFilters(filters_ + QStringList(typed));
+  selectNameFilter(typed);
 }
 
 // A folder whose name was typed in another letter case is entered as by its own name.
@@ -89,16 +109,18 @@ bool SaveDialog::Refuses(const QString& file) {
   TellLookalike(stationPath);
   if (facts.exists() && !overwritePrompt_) return false;
   if (facts.exists()) {
-    return !Agrees(tr("%1 already exists.\n\nReplace it?").arg(facts.fileName()));
+    return !Agrees(tr("%1 already exists.\n\nReplace it?").arg(facts.fileName()), QMessageBox::No);
   }
   if (!createPrompt_ || !facts.dir().exists()) return false;
-  return !Agrees(tr("%1\nThis file does not exist.\n\nCreate the file?").arg(facts.fileName()));
+  return !Agrees(tr("%1\nThis file does not exist.\n\nCreate the file?").arg(facts.fileName()),
+                 QMessageBox::Yes);
 }
 
-bool SaveDialog::Agrees(const QString& question) {
+bool SaveDialog::Agrees(const QString& question, QMessageBox::StandardButton preset) {
   QMessageBox box(QMessageBox::Question, windowTitle(), question,
                   QMessageBox::Yes | QMessageBox::No, this);
   box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(preset);
   return box.exec() == QMessageBox::Yes;
 }
 

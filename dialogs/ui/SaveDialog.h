@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QFileDialog>
+#include <QMessageBox>
+#include <QStringList>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,7 +16,8 @@ struct FileFilter {
 };
 
 // Asks before it replaces a file, which is there when opening the name would find it: in whatever
-// letter case. A name with a wildcard filters the list and saves nothing.
+// letter case, and Enter answers that with No. A name with a wildcard filters the list, beside the
+// filters that are offered, and saves nothing.
 class SaveDialog : public QFileDialog {
   Q_OBJECT
 
@@ -39,8 +42,11 @@ class SaveDialog : public QFileDialog {
  private:
   bool EntersFolder(const QString& file);
   bool Refuses(const QString& file);
-  bool Agrees(const QString& question);
+  void FilterBy(const QString& pattern);
+  // `preset` is the answer that Enter gives.
+  bool Agrees(const QString& question, QMessageBox::StandardButton preset);
 
+  QStringList filters_;
   bool createPrompt_ = false;
   bool overwritePrompt_ = true;
 };

@@ -1,6 +1,5 @@
 #include "dialogs/ui/frmSelectHour.h"
 
-#include <QKeyEvent>
 #include <algorithm>
 #include <cstdlib>
 
@@ -8,7 +7,9 @@
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/SystemColours.h"
 #include "common/ui/TextBoxes.h"
@@ -25,9 +26,6 @@ namespace {
 constexpr char kCaption[] = "Select Time";
 constexpr char kNoMinutes[] = "00";
 constexpr int32_t kBlack = 0x000000;
-constexpr int32_t kRed = 0x0000FF;
-constexpr int32_t kWhite = 0xFFFFFF;
-constexpr int32_t kDarkBlue = 0x800000;
 constexpr int32_t kLastHour = 23;
 constexpr int kLongestHourSelected = 3;  // characters
 
@@ -36,22 +34,23 @@ std::string TwoDigits(int32_t number) {
   return (number < 0 ? "-" : "") + (digits.size() < 2 ? "0" + digits : digits);
 }
 
-bool IsSunday(int16_t label) { return label % kDaysInWeek == 0; }
-
 }  // namespace
 
 frmSelectHour::frmSelectHour(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmSelectHour>()) {
   const BusyPointer busy;
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideLoadDay);
+  ui_->DateFrame->setAccessibleDescription(
+      "Keys for the day: Left and Right by a day, Up and Down by a week");
   SetColours(*ui_->AMSH, kMorningColour, kBlack);
   SetColours(*ui_->PMSH, kAfternoonColour, kBlack);
   SetColours(*ui_->lblYear, kButtonFace, kButtonText);
-  SetColours(*ui_->calendar, kWhite, kBlack);
-  for (int i = 0; i < kDaysInWeek; ++i) {
-    auto* heading = findChild<QLabel*>(QString("lbl%1").arg(i));
-    SetColours(*heading, kWhite, i == 0 ? kRed : kBlack);
-  }
+  ColourCalendar();
+  SetAccessibleRole(*ui_->calendar, QAccessible::List);
+  ui_->AMSH->setAccessibleName("Green");
+  ui_->PMSH->setAccessibleName("Red");
+  FitTextSize();
   SuspendRedraw = true;
   for (int16_t month = 1; month <= 12; ++month) {
     ui_->MonthList->addItem(ToQString(GetMonthName(month)));
@@ -82,6 +81,8 @@ void frmSelectHour::Connect() {
           [this](const QString& text) { ui_->TimeP->SetHour(ToInt32(Val(FromQString(text)))); });
   connect(ui_->TimeP, &HourDial::pressed, this,
           [this](const QPointF& position) { Guarded([&] { OnDialPressed(position); }); });
+  connect(ui_->TimeP, &HourDial::turned, this,
+          [this](int32_t hour) { ui_->TimeT->setText(QString::number(hour)); });
   connect(ui_->TimeP, &HourDial::doubleClicked, this, [this] { ui_->OKB->click(); });
   connect(ui_->OKB, &QPushButton::clicked, this, [this] { OnOk(); });
   connect(ui_->CancelB, &QPushButton::clicked, this, [this] { OnCancel(); });
@@ -117,6 +118,7 @@ void frmSelectHour::setVisible(bool visible) {
 
 void frmSelectHour::changeEvent(QEvent* event) {
   QDialog::changeEvent(event);
+  if (event->type() == QEvent::FontChange) FitTextSize();
   if (event->type() == QEvent::ActivationChange && shown_ && isActiveWindow()) BecomeActive();
 }
 
@@ -176,65 +178,6 @@ void frmSelectHour::ShowDate(int32_t day) {
   SelectedDay = wanted;
 }
 
-void frmSelectHour::RedrawMonth() {
-  if (SuspendRedraw) return;
-  SelectedYear = ToInt16(Val(FromQString(ui_->lblYear->text())));
-  SelectedMonth = static_cast<int16_t>(ui_->MonthList->currentIndex() + 1);
-  DaysInMonth = DaysOfMonth(SelectedMonth, SelectedYear);
-  SelectedDay = std::min(SelectedDay, DaysInMonth);
-  FirstDayOffset = OffsetOfFirstDay(SelectedMonth, SelectedYear);
-  for (int16_t label = 0; label < kCalendarLabels; ++label) {
-    LabelOfDay(label)->clear();
-    LabelOfDay(label)->setFrameShape(QFrame::NoFrame);
-    LabelOfDay(label)->setAccessibleName({});
-    SetDayLook(label, false);
-  }
-  const QString rest = " " + ui_->MonthList->currentText() + " " + ui_->lblYear->text();
-  for (int16_t day = 1; day <= DaysInMonth; ++day) {
-    QLabel* label = LabelOfDay(static_cast<int16_t>(FirstDayOffset + day));
-    label->setText(QString::number(day));
-    label->setAccessibleName(QString::number(day) + rest);
-  }
-  MarkedDay = 0;
-  SelectDay();
-}
-
-void frmSelectHour::SelectDay() {
-  SelectedDay = std::clamp(SelectedDay, int16_t{1}, DaysInMonth);
-  if (MarkedDay > 0) {
-    LabelOfMarkedDay()->setFrameShape(QFrame::NoFrame);
-    SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), false);
-  }
-  const int16_t selected = SelectedDay;
-  {
-    const QSignalBlocker quiet(ui_->DayScroll);
-    ui_->DayScroll->setValue(selected);
-  }
-  MarkedDay = selected;
-  LabelOfMarkedDay()->setFrameShape(QFrame::Box);
-  SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), DayHasFocus);
-  ui_->DayScroll->setAccessibleDescription(LabelOfMarkedDay()->accessibleName());
-}
-
-QLabel* frmSelectHour::LabelOfDay(int16_t label) const {
-  return findChild<QLabel*>(QString("lblDay%1").arg(label));
-}
-
-QLabel* frmSelectHour::LabelOfMarkedDay() const {
-  return LabelOfDay(static_cast<int16_t>(FirstDayOffset + MarkedDay));
-}
-
-void frmSelectHour::SetDayLook(int16_t label, bool reverse) {
-  const int32_t text = IsSunday(label) ? kRed : reverse ? kWhite : kBlack;
-  SetColours(*LabelOfDay(label), reverse ? kDarkBlue : kWhite, text);
-}
-
-// An empty label comes out as the first or the last day, by the limit in SelectDay.
-void frmSelectHour::OnDayClicked(int16_t label) {
-  SelectedDay = static_cast<int16_t>(label - FirstDayOffset);
-  SelectDay();
-}
-
 void frmSelectHour::OnDialPressed(const QPointF& position) {
   // In twips: whole pixels then never lie on the centre line of the dial's odd width.
   const std::optional<int32_t> hour =
@@ -271,40 +214,6 @@ void frmSelectHour::reject() { ui_->CancelB->click(); }
 void frmSelectHour::closeEvent(QCloseEvent* event) {
   ui_->CancelB->click();
   event->setAccepted(!event->spontaneous());
-}
-
-bool frmSelectHour::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == ui_->DayScroll && FilterDayScroll(event)) return true;
-  if (watched == ui_->YearScroll) FilterYearScroll(event);
-  return QDialog::eventFilter(watched, event);
-}
-
-// Up and down move by a week and left and right by a day, as the calendar looks.
-bool frmSelectHour::FilterDayScroll(QEvent* event) {
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) {
-    DayHasFocus = event->type() == QEvent::FocusIn;
-    if (MarkedDay > 0) {
-      SetDayLook(static_cast<int16_t>(FirstDayOffset + MarkedDay), DayHasFocus);
-    }
-  }
-  if (event->type() != QEvent::KeyPress) return false;
-  switch (static_cast<QKeyEvent*>(event)->key()) {
-    case Qt::Key_Up:
-    case Qt::Key_PageUp:
-      ui_->DayScroll->triggerAction(QAbstractSlider::SliderPageStepSub);
-      return true;
-    case Qt::Key_Down:
-    case Qt::Key_PageDown:
-      ui_->DayScroll->triggerAction(QAbstractSlider::SliderPageStepAdd);
-      return true;
-    default:
-      return false;
-  }
-}
-
-void frmSelectHour::FilterYearScroll(QEvent* event) {
-  if (event->type() == QEvent::FocusIn) SetColours(*ui_->lblYear, kHighlight, kHighlightText);
-  if (event->type() == QEvent::FocusOut) SetColours(*ui_->lblYear, kButtonFace, kButtonText);
 }
 
 }  // namespace logchecker

@@ -9,9 +9,10 @@
 namespace Ui {
 class frmSelectHour;
 }
-class QLabel;
 
 namespace logchecker {
+
+class DayLabel;
 
 // Takes its input and gives its answer through `Tag`: five digits of a day number, two of the hour,
 // and with `AskMinutes` ":" and two of the minutes. An empty text on the way in starts from the
@@ -45,6 +46,8 @@ class frmSelectHour : public QDialog {
 
  private:
   void Connect();
+  void ColourCalendar();
+  void FitTextSize();
   void BecomeActive();
   void TakeTag();
   void TakePresentTime();
@@ -54,8 +57,9 @@ class frmSelectHour : public QDialog {
   void OnOk();
   void OnCancel();
   void Leave(const std::string& tag);
-  QLabel* LabelOfDay(int16_t label) const;
-  QLabel* LabelOfMarkedDay() const;
+  DayLabel* LabelOfDay(int16_t label) const;
+  QLabel* LabelOfWeekday(int weekday) const;
+  DayLabel* LabelOfMarkedDay() const;
   void SetDayLook(int16_t label, bool reverse);
   bool FilterDayScroll(QEvent* event);
   void FilterYearScroll(QEvent* event);

@@ -13,6 +13,7 @@
 #include "common/PathText.h"
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
+#include "common/ui/Guide.h"
 #include "common/ui/KeyCode.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -42,6 +43,7 @@ constexpr int32_t kOwnKeys[] = {34, 33, 36, 35, 38, 37, 40, 39, 43, 13, 80, 83, 
 frmPrintPreview::frmPrintPreview(QWidget* parent)
     : QDialog(parent, Qt::Window), ui_(std::make_unique<Ui::frmPrintPreview>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideNotes);
   resize(kDesignSize);
   ui_->rtfFile->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   connect(ui_->cmdPrint, &QPushButton::clicked, this, [this] { OnPrint(); });

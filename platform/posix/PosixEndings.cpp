@@ -71,6 +71,20 @@ void EndGroups(pid_t self) {
   SignalGroups(self, SIGKILL);
 }
 
+std::atomic<int> gFolderState{kFree};
+char gFolder[PATH_MAX];
+
+// What is in it is not known, so another program is asked to.
+void RemoveFolder() {
+  if (gFolderState != kHeld) return;
+  const pid_t child = _Fork();
+  if (child == 0) {
+    execl("/bin/rm", "rm", "-rf", "--", gFolder, nullptr);
+    _exit(1);
+  }
+  if (child > 0) waitpid(child, nullptr, 0);
+}
+
 // Calls only what may be called in the middle of anything.
 extern "C" void EndProgram(int signal) {
   if (gUninterrupted > 0) {
@@ -82,6 +96,7 @@ extern "C" void EndProgram(int signal) {
   for (Slot& slot : gSlots) {
     if (Change(slot, kHeld, kTaken) && slot.owner == self) unlink(slot.path);
   }
+  RemoveFolder();
   if (gEndsWithSuccess && (signal == SIGTERM || signal == SIGINT)) _exit(0);
   std::signal(signal, SIG_DFL);
   std::raise(signal);
@@ -146,6 +161,16 @@ void EndWithoutTemporaryFiles() {
     sigemptyset(&ending.sa_mask);
     sigaction(signal, &ending, nullptr);
   }
+}
+
+void RemoveFolderWhenEnded(const std::string& folder) {
+  gFolderState = kBeingFilled;
+  if (folder.empty() || folder.size() >= PATH_MAX) {
+    gFolderState = kFree;
+    return;
+  }
+  std::memcpy(gFolder, folder.c_str(), folder.size() + 1);
+  gFolderState = kHeld;
 }
 
 void EndWithSuccess() { gEndsWithSuccess = true; }

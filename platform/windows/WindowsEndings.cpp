@@ -1,8 +1,10 @@
 #include "platform/windows/WindowsEndings.h"
 
 #include <atomic>
+#include <filesystem>
 #include <mutex>
 #include <set>
+#include <system_error>
 
 #include "platform/Endings.h"
 #include "platform/windows/WindowsApi.h"
@@ -14,6 +16,7 @@ namespace {
 struct VanishingFiles {
   std::mutex mutex;
   std::set<std::string> paths;
+  std::string folder;
 };
 
 // Never destroyed: the console's thread may ask for it while the program ends.
@@ -30,6 +33,8 @@ BOOL WINAPI OnConsoleEnding(DWORD /*event*/) {
   VanishingFiles& files = Vanishing();
   const std::lock_guard<std::mutex> lock(files.mutex);
   for (const std::string& path : files.paths) DeleteFileA(path.c_str());
+  std::error_code failure;
+  if (!files.folder.empty()) std::filesystem::remove_all(files.folder, failure);
   if (gEndsWithSuccess) TerminateProcess(GetCurrentProcess(), 0);
   return FALSE;
 }
@@ -47,6 +52,11 @@ void ReleaseVanishingFile(const std::string& path) {
 }
 
 void EndWithoutTemporaryFiles() { SetConsoleCtrlHandler(OnConsoleEnding, TRUE); }
+
+void RemoveFolderWhenEnded(const std::string& folder) {
+  const std::lock_guard<std::mutex> lock(Vanishing().mutex);
+  Vanishing().folder = folder;
+}
 
 void EndWithSuccess() { gEndsWithSuccess = true; }
 

@@ -6,6 +6,8 @@
 #include <QDialogButtonBox>
 #include <QLineEdit>
 
+#include "common/ui/Guide.h"
+
 namespace logchecker {
 
 std::unique_ptr<QAbstractPrintDialog> MakePrinterDialog(QPrinter* printer,
@@ -18,6 +20,7 @@ ToolkitPrinterDialog::ToolkitPrinterDialog(QPrinter* printer, const PrinterQuest
                                            QWidget* owner)
     : QPrintDialog(printer, owner), withheld_(new QWidget(this)) {
   setWindowTitle(question.title);
+  SetGuidePage(*this, kGuideSaveAndPrint);
   withheld_->hide();
   TakeLastPrinter();
   if (auto* file = findChild<QLineEdit*>("filename")) file->installEventFilter(this);

@@ -41,6 +41,7 @@ void frmMain::BuildToolbar() {
     button->setAutoRaise(true);
     button->setToolTip(tip);
     button->setAccessibleName(caption);
+    button->setAccessibleDescription(QString("%1. Key: %2").arg(tip, key));
     // A click leaves the focus where the user works.
     button->setFocusPolicy(Qt::TabFocus);
     auto* label = new ClickableLabel;
@@ -134,6 +135,9 @@ void frmMain::ShowOtherDays() {
   otherDaysPanel_->SetWholeText(QString(words).replace('\n', "; "));
   otherDaysPanel_->setToolTip(AsToolTip(
       QString("There is no log of %1\n").arg(ToQString(DayInWords(CurrentLogDate))) + words));
+  // The tool tip without its marks.
+  otherDaysPanel_->setAccessibleDescription(
+      QString("There is no log of %1").arg(ToQString(DayInWords(CurrentLogDate))));
   otherDaysPanel_->setVisible(!words.isEmpty());
 }
 

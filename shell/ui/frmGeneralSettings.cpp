@@ -4,6 +4,7 @@
 
 #include "common/GeneralSettings.h"
 #include "common/Numbers.h"
+#include "common/ui/Guide.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -26,6 +27,7 @@ void Write(const char* key, const std::string& value) {
 frmGeneralSettings::frmGeneralSettings(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmGeneralSettings>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSetUp);
   SelectAllOnFocus(*ui_->txtNumberSplits);
   TypeDigitsOnly(*ui_->txtNumberSplits);
   FillFields();

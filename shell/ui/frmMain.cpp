@@ -20,11 +20,13 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "shell/LoadLogs.h"
+#include "shell/ui/ScreenFit.h"
 #include "shell/ui/frmGeneralSettings.h"
 #include "shell/ui/frmSplash.h"
 #include "splitlogs/SplitLogTable.h"
@@ -38,13 +40,11 @@ namespace {
 
 constexpr int kLeastHeight = 3000;  // twips
 constexpr QSize kDesignSize{1180, 760};
-// What a window manager may draw around the window; it does not say before the window is shown.
-constexpr QSize kRoomForFrame{16, 48};
-
 }  // namespace
 
 frmMain::frmMain() : area_(new QMdiArea) {
   setObjectName("frmMain");
+  SetGuidePage(*this, kGuideCheckDay);
   setWindowTitle(kProgramTitle);
   setWindowIcon(IconNamed("program"));
   setContextMenuPolicy(Qt::NoContextMenu);
@@ -62,13 +62,22 @@ frmMain::frmMain() : area_(new QMdiArea) {
   connect(area_, &QMdiArea::subWindowActivated, this,
           [this](QMdiSubWindow* child) { OnChildActivated(child); });
   connect(new QShortcut(Qt::Key_F6, this), &QShortcut::activated, this, [this] { SwitchFocus(); });
-  QSize size = kDesignSize;
-  if (const QScreen* screen = QApplication::primaryScreen()) {
-    size = size.boundedTo(screen->availableSize() - kRoomForFrame);
-  }
-  resize(size);
-  gSplits.SetFactory([this] {
+  const auto step = [this](const QKeySequence& key, MismatchStep way) {
+    connect(new QShortcut(key, this), &QShortcut::activated, this,
+            [this, way] { Guarded([&] { GoToMismatch(way); }); });
+  };
+  step(Qt::Key_F8, MismatchStep::kNext);
+  step(Qt::SHIFT | Qt::Key_F8, MismatchStep::kPrevious);
+  const QSize room = ScreenFit::RoomOn(*screen());
+  resize(kDesignSize.boundedTo(room));
+  // The windows of the splits were arranged in the frame as it was.
+  connect(new ScreenFit(*this), &ScreenFit::firstSizeFitted, this, [this] {
+    if (StartupComplete) TileChildren();
+  });
+  gSplits.SetFactory([this, room] {
     auto split = std::make_unique<frmSplit>();
+    // On the smallest of screens one is wider than the frame can be, which would stop the program.
+    if (split->width() > room.width()) split->resize(room.width(), split->height());
     area_->addSubWindow(split.get());
     split->hide();
     return split;

@@ -23,6 +23,7 @@ namespace logchecker {
 
 class ElidedLabel;
 class frmCheckBreaks;
+enum class MismatchStep;
 class frmGeneralSettings;
 class frmSelectHour;
 class frmSplash;
@@ -76,6 +77,7 @@ class frmMain : public QMainWindow {
   void OnChildActivated(QMdiSubWindow* child);
   void ListWindows();
   void SwitchFocus();
+  void GoToMismatch(MismatchStep step);
   void FocusGrid();
 
   // The start, step by step.

@@ -4,6 +4,7 @@
 #include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QPainter>
 #include <QPixmap>
 #include <QScreen>
@@ -13,7 +14,9 @@
 #include "common/SystemHelpers.h"
 #include "common/UserInterface.h"
 #include "common/VersionData.h"
+#include "common/ui/AccessibleRole.h"
 #include "common/ui/Icons.h"
+#include "common/ui/LeastWidth.h"
 #include "common/ui/StationQString.h"
 #include "platform/HostPaths.h"
 #include "shell/PlatformLine.h"
@@ -23,6 +26,7 @@ namespace logchecker {
 
 namespace {
 
+constexpr int kLeastWidth = 460;   // pixels
 constexpr int kLogoSize = 96;      // logical pixels
 constexpr int kLongestWait = 500;  // milliseconds
 constexpr char kStationLogo[] = "\\LOGO.BMP";
@@ -33,11 +37,13 @@ frmSplash::frmSplash(QWidget* parent)
     : QWidget(parent, Qt::SplashScreen | Qt::FramelessWindowHint),
       ui_(std::make_unique<Ui::frmSplash>()) {
   ui_->setupUi(this);
+  HoldLeastWidth(*this, kLeastWidth);
   ui_->cmdOK->hide();
   connect(ui_->cmdOK, &QPushButton::clicked, this, [this] { OnOk(); });
   FillIdentity();
   ShowLogo();
   adjustSize();
+  resize(width(), layout()->totalHeightForWidth(width()));
   if (const QScreen* screen = QGuiApplication::primaryScreen()) {
     move(screen->availableGeometry().center() - rect().center());
   }
@@ -101,6 +107,7 @@ void frmSplash::SetCurrentAction(const std::string& text) {
 
 void frmSplash::ShowAsAboutBox() {
   setAttribute(Qt::WA_DeleteOnClose);
+  SetAccessibleRole(*this, QAccessible::Dialog);
   setWindowFlags(Qt::Dialog | Qt::FramelessWindowHint);
   if (floating_ != 0) setWindowFlag(Qt::WindowStaysOnTopHint);
   ui_->cmdOK->show();

@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "common/ui/Contrast.h"
+
 namespace logchecker {
 
 namespace {
@@ -37,7 +39,12 @@ void LogCellDelegate::DrawBorder(QPainter* painter, const QStyleOptionViewItem& 
   const int32_t row = index.row() + 1;
   const QRect& cell = option.rect;
   painter->save();
-  QPen pen(option.palette.color(QPalette::Active, QPalette::Highlight), kLineWidth, Qt::DashLine);
+  const QVariant own = index.data(Qt::BackgroundRole);
+  QColor line = option.palette.color(QPalette::Active, QPalette::Highlight);
+  if (own.isValid()) {
+    line = SeenOn(own.value<QColor>(), line, index.data(Qt::ForegroundRole).value<QColor>());
+  }
+  QPen pen(line, kLineWidth, Qt::DashLine);
   pen.setCapStyle(Qt::FlatCap);
   painter->setPen(pen);
   if (row == std::max(first, 1))

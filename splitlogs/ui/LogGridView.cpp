@@ -10,9 +10,11 @@
 #include <algorithm>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/CompactHeader.h"
 #include "common/ui/Guard.h"
 #include "common/ui/StationQString.h"
+#include "common/ui/TextSizeWatch.h"
 #include "common/ui/Twips.h"
 #include "splitlogs/LogWords.h"
 #include "splitlogs/ui/LogCellDelegate.h"
@@ -25,10 +27,16 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
+constexpr int kLeastCharacters = 12;  // of a description, in a large text
+constexpr char kKeys[] =
+    "Keys: Enter lines all splits up on the break, F8 and Shift+F8 go to the next and the previous "
+    "mismatch, F6 to the toolbar";
+
 }  // namespace
 
 LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
     : QTableView(parent), grid_(grid), model_(new LogGridModel(grid, this)) {
+  UseAccessibleTables();
   setHorizontalHeader(new CompactHeader(this));
   setModel(model_);
   setItemDelegate(new LogCellDelegate(grid, this));
@@ -43,8 +51,9 @@ LogGridView::LogGridView(LogGrid& grid, QWidget* parent)
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   verticalHeader()->hide();
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-  SetUpColumns();
   FitFont();
+  Describe();
+  WhenTextSizeChanges(*this, [this] { FitFont(); });
   grid_.SetObserver(this);
   connect(verticalScrollBar(), &QScrollBar::valueChanged, this,
           [this](int value) { OnScrolled(value); });
@@ -56,7 +65,7 @@ void LogGridView::SetUpColumns() {
   for (int column = 0; column < kLogColumns; ++column) {
     const int32_t width = kLogColumnHeaders[static_cast<size_t>(column)].width;
     setColumnHidden(column, width == 0);
-    if (width > 0) setColumnWidth(column, ToPixels(width));
+    if (width > 0) setColumnWidth(column, ToPixels(TableTwips(width)));
   }
 }
 
@@ -66,16 +75,19 @@ void LogGridView::FillDescriptionColumn() {
     if (column != kDescriptionColumn) others += ToTwips(columnWidth(column));
   }
   const int filled = ToTwips(width()) - kFrameWidth - kScrollBarWidth - others;
-  setColumnWidth(kDescriptionColumn, std::max(filled / kTwipsPerPixel, 1));
+  // Beside columns that a large text has made wider, the window's own least width leaves nothing.
+  const int least = TableScale() > 1 ? kLeastCharacters * fontMetrics().averageCharWidth() : 1;
+  setColumnWidth(kDescriptionColumn, std::max(filled / kTwipsPerPixel, least));
 }
 
 void LogGridView::FitFont() {
   const QFont fitted = CompactFont();
-  if (fitted == font()) return;
   setFont(fitted);
   horizontalHeader()->setFont(fitted);
   verticalHeader()->setMinimumSectionSize(1);
   verticalHeader()->setDefaultSectionSize(CompactRowHeight());
+  SetUpColumns();
+  FillDescriptionColumn();
 }
 
 void LogGridView::GridChanged() {
@@ -113,9 +125,14 @@ void LogGridView::SelectionChanged() {
 // A selection that is the same as before can have become one that stands in for another break.
 void LogGridView::ShowMiss() {
   const QString words = ToQString(MissInWords(grid_));
-  if (words == accessibleDescription()) return;
-  setAccessibleDescription(words);
+  if (words == miss_) return;
+  miss_ = words;
+  Describe();
   viewport()->update();
+}
+
+void LogGridView::Describe() {
+  setAccessibleDescription((miss_.isEmpty() ? QString() : miss_ + ". ") + kKeys);
 }
 
 bool LogGridView::viewportEvent(QEvent* event) {
@@ -123,7 +140,7 @@ bool LogGridView::viewportEvent(QEvent* event) {
     const auto* help = static_cast<QHelpEvent*>(event);
     const QModelIndex index = indexAt(help->pos());
     if (index.isValid() && selectionModel()->isSelected(index)) {
-      QToolTip::showText(help->globalPos(), AsToolTip(accessibleDescription()), viewport());
+      QToolTip::showText(help->globalPos(), AsToolTip(miss_), viewport());
       return true;
     }
   }
@@ -139,12 +156,29 @@ void LogGridView::OnScrolled(int value) {
 }
 
 void LogGridView::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
-  QTableView::currentChanged(current, previous);
+  QAbstractItemView::currentChanged(current, previous);  // NOLINT(bugprone-parent-virtual-call)
+  TellCurrentChanged(*this, current);
   if (following_ || !current.isValid()) return;
   Guarded([&] {
     const QScopedValueRollback<bool> following(following_, true);
     if (current.row() + 1 < grid_.Rows()) grid_.SetRow(current.row() + 1);
   });
+}
+
+void LogGridView::selectionChanged(const QItemSelection& selected,
+                                   const QItemSelection& deselected) {
+  // NOLINTNEXTLINE(bugprone-parent-virtual-call): the base's own tells of hidden columns
+  QAbstractItemView::selectionChanged(selected, deselected);
+  TellSelectionChanged(*this, selected, deselected);
+}
+
+void LogGridView::MakeRowCurrent(int row) {
+  setCurrentIndex(model_->index(row, kDescriptionColumn));
+}
+
+void LogGridView::ChooseRow(int row) {
+  MakeRowCurrent(row);
+  emit breakChosen();
 }
 
 void LogGridView::keyPressEvent(QKeyEvent* event) {
@@ -175,11 +209,6 @@ void LogGridView::mouseReleaseEvent(QMouseEvent* event) {
 
 // The first click has put another row under the pointer, and the second press is not meant for it.
 void LogGridView::mouseDoubleClickEvent(QMouseEvent* /*event*/) {}
-
-bool LogGridView::event(QEvent* event) {
-  if (event->type() == QEvent::ApplicationFontChange) FitFont();
-  return QTableView::event(event);
-}
 
 // Any row can be the top one, the last break's too, so that all the splits line up.
 void LogGridView::updateGeometries() {

@@ -5,11 +5,12 @@
 
 #include <QTableView>
 
+#include "common/ui/AccessibleTable.h"
 #include "splitlogs/ui/LogGridModel.h"
 
 namespace logchecker {
 
-class LogGridView : public QTableView, public LogGridObserver {
+class LogGridView : public QTableView, public RowChooser, public LogGridObserver {
   Q_OBJECT
 
  public:
@@ -23,6 +24,9 @@ class LogGridView : public QTableView, public LogGridObserver {
   void GridChanged() override;
   void SelectionChanged() override;
 
+  void MakeRowCurrent(int row) override;
+  void ChooseRow(int row) override;
+
  signals:
   // A click of the left button anywhere on the grid, whose row is the one that was pressed, or
   // Enter in it. A double click is one click.
@@ -34,9 +38,9 @@ class LogGridView : public QTableView, public LogGridObserver {
   void mouseMoveEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
-  bool event(QEvent* event) override;
   bool viewportEvent(QEvent* event) override;
   void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
+  void selectionChanged(const QItemSelection& selected, const QItemSelection& deselected) override;
   void updateGeometries() override;
 
  private:
@@ -44,8 +48,10 @@ class LogGridView : public QTableView, public LogGridObserver {
   void FitFont();
   void OnScrolled(int value);
   void ShowMiss();
+  void Describe();
 
   LogGrid& grid_;
+  QString miss_;  // what the selection stands in for, in words; empty where it is a hit
   LogGridModel* model_;
   bool following_ = false;  // the view is being brought in line with the grid
   bool pressed_ = false;    // a click has begun

@@ -11,6 +11,8 @@
 #include "common/TextHelpers.h"
 #include "common/UserInterface.h"
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
+#include "common/ui/LeastWidth.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/TextBoxes.h"
@@ -25,6 +27,8 @@ namespace logchecker {
 
 namespace {
 
+constexpr int kLeastWidth = 520;  // pixels
+
 std::string TextOf(const QLineEdit* box) { return FromQString(box->text()); }
 
 }  // namespace
@@ -32,6 +36,8 @@ std::string TextOf(const QLineEdit* box) { return FromQString(box->text()); }
 frmLogFileSettings::frmLogFileSettings(QWidget* parent)
     : QDialog(parent), ui_(std::make_unique<Ui::frmLogFileSettings>()) {
   ui_->setupUi(this);
+  SetGuidePage(*this, kGuideSplit);
+  HoldLeastWidth(*this, kLeastWidth);
   ConnectFields();
   SetSplitNumberLabel("1");
 }

@@ -7,6 +7,7 @@
 #include <QToolTip>
 
 #include "common/ui/Guard.h"
+#include "common/ui/Guide.h"
 #include "common/ui/Icons.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"
@@ -26,6 +27,7 @@ constexpr int kGridMargins = 60;     // of gridLog in brdMain
 
 frmSplit::frmSplit() : inner_(new QWidget), brdMain_(new QFrame(inner_)) {
   setObjectName("frmSplit");
+  SetGuidePage(*this, kGuideBreak);
   setWindowIcon(IconNamed("program"));
   brdMain_->setObjectName("brdMain");
   brdMain_->setFrameShape(QFrame::StyledPanel);

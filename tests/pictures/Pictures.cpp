@@ -1,5 +1,7 @@
-// Draws every window in its states into a folder, without a screen:
+// Draws every window in its states into a folder, without a screen: in light and in dark colours,
+// and with the desktop's text twice as large as usual:
 //   logchecker_pictures FOLDER
+// QT_SCALE_FACTOR in the environment draws them for a finer screen.
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -38,6 +40,7 @@
 #include "splitlogs/ui/frmLogFileSettings.h"
 #include "tests/support/ScriptedPlatform.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/ui/DarkPalette.h"
 
 namespace logchecker {
 namespace {
@@ -45,24 +48,13 @@ namespace {
 // Day numbers of the pictures, so that they come out the same on any day.
 constexpr int32_t kToday = 46401;
 
-QPalette DarkPalette() {
-  QPalette dark;
-  dark.setColor(QPalette::Window, QColor(45, 48, 52));
-  dark.setColor(QPalette::WindowText, QColor(225, 228, 232));
-  dark.setColor(QPalette::Base, QColor(30, 32, 35));
-  dark.setColor(QPalette::AlternateBase, QColor(38, 41, 45));
-  dark.setColor(QPalette::Text, QColor(225, 228, 232));
-  dark.setColor(QPalette::Button, QColor(58, 62, 67));
-  dark.setColor(QPalette::ButtonText, QColor(225, 228, 232));
-  dark.setColor(QPalette::Highlight, QColor(61, 121, 181));
-  dark.setColor(QPalette::HighlightedText, Qt::white);
-  dark.setColor(QPalette::Mid, QColor(70, 74, 80));
-  dark.setColor(QPalette::PlaceholderText, QColor(140, 145, 150));
-  dark.setColor(QPalette::Disabled, QPalette::Text, QColor(120, 125, 130));
-  dark.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(120, 125, 130));
-  dark.setColor(QPalette::Disabled, QPalette::WindowText, QColor(120, 125, 130));
-  return dark;
-}
+constexpr QSize kSmallScreen{1024, 600};
+
+struct Look {
+  const char* name;  // behind the pictures' names
+  QPalette palette;
+  QFont font;
+};
 
 class Painter {
  public:
@@ -261,13 +253,20 @@ int Draw(const QString& folder) {
   WriteSampleStation(windowsFolder, station);
   const QtUserInterface userInterface;
   Painter painter(folder);
-  for (const bool dark : {false, true}) {
-    QApplication::setPalette(dark ? DarkPalette() : QPalette());
-    painter.SetTheme(dark ? "-dark" : "");
+  const QFont usual = QApplication::font();
+  QFont large = usual;
+  large.setPointSizeF(2 * usual.pointSizeF());
+  const Look looks[] = {
+      {"", QPalette(), usual}, {"-dark", DarkPalette(), usual}, {"-large", QPalette(), large}};
+  for (const Look& look : looks) {
+    QApplication::setPalette(look.palette);
+    QApplication::setFont(look.font);
+    painter.SetTheme(look.name);
     for (const int splits : {1, 2, 4, 10}) {
       DrawMain(painter, {1024, 768}, splits);
-      if (!dark) DrawMain(painter, {2560, 1440}, splits);
+      if (look.palette == QPalette()) DrawMain(painter, {2560, 1440}, splits);
     }
+    DrawMain(painter, kSmallScreen, 5);
     DrawResults(painter);
     DrawDialogs(painter);
     DrawBrowser(painter);

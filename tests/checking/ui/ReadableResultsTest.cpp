@@ -5,6 +5,7 @@
 #include <QScrollBar>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/CompactHeader.h"
 #include "common/ui/StationQString.h"
 #include "common/ui/Twips.h"

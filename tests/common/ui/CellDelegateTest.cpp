@@ -3,6 +3,7 @@
 #include <QStandardItemModel>
 
 #include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "tests/support/ui/WindowTest.h"
 
 namespace logchecker {

@@ -5,7 +5,7 @@
 #include <QStandardItemModel>
 #include <QTreeView>
 
-#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/ReportList.h"
 #include "tests/support/ui/WindowTest.h"
 

@@ -4,7 +4,7 @@
 #include <QProxyStyle>
 #include <QScrollBar>
 
-#include "common/ui/CellDelegate.h"
+#include "common/ui/CompactFont.h"
 #include "common/ui/Twips.h"
 #include "splitlogs/KLT_Common.h"
 #include "splitlogs/SplitLogTable.h"
