@@ -45,16 +45,10 @@ build_packages=("${plain_packages[@]}" qt6-base-dev librsvg2-bin qt6-multimedia-
   python3-markdown)
 test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidcheck-dev libjpeg-dev
   libgumbo-dev locales python3 python3-jsonschema xvfb openbox xdotool xclip x11-utils imagemagick
-<<<<<<< HEAD
-  fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils)
-=======
   fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils
   at-spi2-core dbus python3-pyatspi)
-windows_packages=("${plain_packages[@]}" librsvg2-bin g++-mingw-w64-x86-64-posix wine64 googletest python3
-  python3-markdown)
->>>>>>> main
 windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
-windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3
+windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3 python3-markdown
   xvfb fonts-wine fonts-liberation fonts-dejavu-core poppler-utils cups)
 package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)

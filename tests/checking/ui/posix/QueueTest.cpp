@@ -12,15 +12,9 @@
 #include <array>
 
 #include "tests/checking/ui/ResultsTest.h"
-<<<<<<< HEAD
 #include "tests/support/ui/PrintQueue.h"
 #include "tests/support/ui/PrintedFile.h"
 #include "tests/support/ui/posix/FullDisk.h"
-=======
-#include "tests/support/ui/PrintedFile.h"
-#include "tests/support/ui/posix/FullDisk.h"
-#include "tests/support/ui/posix/PrintQueue.h"
->>>>>>> main
 
 namespace logchecker {
 namespace {
