@@ -17,6 +17,7 @@
 #include "common/VersionData.h"
 #include "common/ui/Buttons.h"
 #include "common/ui/CutTextTips.h"
+#include "common/ui/DesktopManners.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
@@ -165,7 +166,9 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   constexpr char kGraphics[] = "QT_XCB_GL_INTEGRATION";
   if (!qEnvironmentVariableIsSet(kGraphics)) qputenv(kGraphics, "none");
   DisplayWatch display("cartbrowser", [&parts] { CloseStore(parts); });
+  JoinDesktop("org.logchecker.CartBrowser");
   const QApplication application(argc, argv);
+  FollowTheme();
   display.DisplayIsThere();
   QApplication::setApplicationName("cartbrowser");
   QApplication::setApplicationVersion(kVersion);

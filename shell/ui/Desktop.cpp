@@ -9,6 +9,7 @@
 #include "common/VersionData.h"
 #include "common/ui/Buttons.h"
 #include "common/ui/CutTextTips.h"
+#include "common/ui/DesktopManners.h"
 #include "common/ui/DisplayWatch.h"
 #include "common/ui/Guard.h"
 #include "common/ui/Guide.h"
@@ -72,11 +73,12 @@ int RunDesktop(int argc, char** argv, const WriteMadeUpStation& write) {
   const bool trial = IsTrial(argc, argv);
   SetCommandLine(JoinedArguments(argc, argv));
   DisplayWatch display("logchecker", CloseFiles);
+  JoinDesktop("org.logchecker.LogChecker");
   const QApplication application(argc, argv);
+  FollowTheme();
   display.DisplayIsThere();
   QApplication::setApplicationName("logchecker");
   QApplication::setApplicationVersion(kVersion);
-  QApplication::setDesktopFileName("org.logchecker.LogChecker");
   QApplication::setWindowIcon(IconNamed("program"));
   // The end of the program is the main window's, not that of the last window to close.
   QApplication::setQuitOnLastWindowClosed(false);
