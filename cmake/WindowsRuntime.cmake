@@ -5,6 +5,7 @@
 
 include_guard(GLOBAL)
 set(windows_runtime_libraries Qt6Core.dll Qt6Gui.dll Qt6PrintSupport.dll Qt6Widgets.dll)
+# Notes have pictures, of which this is the one kind that the toolkit reads by a plugin.
 set(windows_runtime_plugins imageformats/qjpeg.dll platforms/qwindows.dll styles/qwindowsvistastyle.dll)
 set(windows_compiler_libraries libgcc_s_seh-1.dll libstdc++-6.dll libwinpthread-1.dll)
 # The tests of windows need these too.

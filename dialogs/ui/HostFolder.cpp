@@ -14,7 +14,8 @@ QString HostFolder(const std::string& stationPath) {
 }
 
 bool StationFolder(const QString& hostPath, std::string* stationPath) {
-  return FromQString(QString::fromStdString(FromHostPath(hostPath.toStdString())), stationPath);
+  const std::string own = QDir::toNativeSeparators(hostPath).toStdString();
+  return FromQString(QString::fromStdString(FromHostPath(own)), stationPath);
 }
 
 }  // namespace logchecker

@@ -21,6 +21,9 @@ QFileInfo FactsOf(const std::string& stationPath) {
   return QFileInfo(QString::fromStdString(ToHostPath(stationPath)));
 }
 
+// The toolkit writes slashes on every system; the user and the settings read the system's own.
+QString Chosen(const QStringList& files) { return QDir::toNativeSeparators(files.constFirst()); }
+
 bool HasWildcard(const QString& name) { return name.contains('*') || name.contains('?'); }
 
 }  // namespace
@@ -51,7 +54,7 @@ std::optional<std::string> SaveDialog::Ask(const QString& presetName) {
     name->selectAll();
   }
   if (exec() != QDialog::Accepted || selectedFiles().isEmpty()) return std::nullopt;
-  return FromQString(selectedFiles().constFirst());
+  return FromQString(Chosen(selectedFiles()));
 }
 
 void SaveDialog::accept() {
@@ -62,7 +65,7 @@ void SaveDialog::accept() {
     return;
   }
   const QStringList files = selectedFiles();
-  if (!files.isEmpty() && (EntersFolder(files.constFirst()) || Refuses(files.constFirst()))) return;
+  if (!files.isEmpty() && (EntersFolder(Chosen(files)) || Refuses(Chosen(files)))) return;
   QFileDialog::accept();
 }
 
@@ -85,10 +88,11 @@ void SaveDialog::FilterBy(const QString& pattern) {
   selectNameFilter(typed);
 }
 
-// A folder whose name was typed in another letter case is entered as by its own name.
+// A folder whose name was typed, in whatever letter case, is entered, and the box is empty for the
+// file.
 bool SaveDialog::EntersFolder(const QString& file) {
   std::string stationPath;
-  if (QFileInfo::exists(file) || !FromQString(file, &stationPath)) return false;
+  if (!FromQString(file, &stationPath)) return false;
   const QFileInfo facts = FactsOf(stationPath);
   if (!facts.isDir()) return false;
   setDirectory(facts.absoluteFilePath());

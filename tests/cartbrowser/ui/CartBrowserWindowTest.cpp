@@ -13,6 +13,7 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ui/SystemColours.h"
 #include "tests/cartbrowser/ui/BrowserWindow.h"
+#include "tests/support/ui/CancelDrag.h"
 
 namespace logchecker {
 namespace {
@@ -317,7 +318,7 @@ TEST_F(CartBrowserFormTest, ARowWithAudioCanBeDraggedWhereThatIsAllowed) {
     QTimer::singleShot(0, window.get(), [&] {
       for (const auto* drag : window->findChildren<QDrag*>()) {
         carried = drag->mimeData()->text();
-        QDrag::cancel();
+        CancelDrag();
       }
     });
     const QPointF start(50, 10);

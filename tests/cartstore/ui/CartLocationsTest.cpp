@@ -1,5 +1,6 @@
 #include <QCheckBox>
 #include <QClipboard>
+#include <QDir>
 #include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -8,6 +9,7 @@
 #include "cartstore/AudiowallParts.h"
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "cartstore/ui/frmCartLocations.h"
+#include "platform/HostPaths.h"
 #include "platform/Platform.h"
 #include "tests/support/ui/WindowTest.h"
 
@@ -301,21 +303,23 @@ TEST_F(CartLocationsTest, BrowseGivesAFolderInUpperCaseAndNothingOnCancel) {
   gAudiowallParts[1].Path = Path("STORE");
   Open();
   {
-    DialogScript script([](QDialog* chooser) {
+    DialogScript script([this](QDialog* chooser) {
       auto* files = qobject_cast<QFileDialog*>(chooser);
       EXPECT_EQ(files->windowTitle(), "Select the directory that the audio is stored in");
-      EXPECT_TRUE(files->directory().absolutePath().endsWith("/store"));
+      EXPECT_EQ(QFileInfo(files->directory().path()),
+                QFileInfo(QString::fromStdString(ToHostPath(Path("store")))));
       Control<QLineEdit>(files, "fileNameEdit")->clear();
       QMetaObject::invokeMethod(files, "accept");
     });
     Control<QPushButton>(dialog.get(), "cmdChangeCartLocation2")->click();
   }
-  EXPECT_TRUE(Box(2)->text().endsWith("/STORE")) << Text(2);
+  EXPECT_TRUE(Box(2)->text().endsWith(QDir::toNativeSeparators("/STORE"))) << Text(2);
   {
     DialogScript script([](QDialog* chooser) { chooser->reject(); });
     Control<QPushButton>(dialog.get(), "cmdChangeCartLocation2")->click();
   }
-  EXPECT_TRUE(Box(2)->text().endsWith("/STORE")) << "a cancelled chooser changes nothing";
+  EXPECT_TRUE(Box(2)->text().endsWith(QDir::toNativeSeparators("/STORE")))
+      << "a cancelled chooser changes nothing";
 }
 
 TEST_F(CartLocationsTest, TheLocationsSurviveAWriteThatFails) {

@@ -4,6 +4,8 @@
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileDialog>
 
 #include "common/ui/VisibleFocus.h"
 #include "printing/ui/PrinterChoice.h"
@@ -23,6 +25,13 @@ WindowTest::WindowTest()
 }
 
 WindowTest::~WindowTest() { UseStopRoutine(before_); }
+
+std::string FolderShown(const QDialog* files) {
+  const auto* dialog = qobject_cast<const QFileDialog*>(files);
+  EXPECT_NE(dialog, nullptr) << "not a file dialog";
+  if (dialog == nullptr) return "";
+  return QDir::toNativeSeparators(dialog->directory().canonicalPath()).toStdString();
+}
 
 DialogScript::DialogScript() { qApp->installEventFilter(this); }
 

@@ -40,6 +40,9 @@ Widget* Control(const QObject* window, const char* name) {
   return found;
 }
 
+// The folder that a file dialog shows, as the host's own path.
+std::string FolderShown(const QDialog* files);
+
 // Runs `work` on the dialogs that open while it lives, one after the other, as soon as each is
 // there. A dialog that nobody expects is closed, and the test fails.
 class DialogScript : public QObject {

@@ -10,7 +10,7 @@ import pathlib
 import subprocess
 import sys
 
-SIZE = "1280x1024x24"
+SIZE = "2560x1600x24"
 
 
 def end_wine(wine):
