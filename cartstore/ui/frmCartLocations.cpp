@@ -120,7 +120,8 @@ void frmCartLocations::TakeRow(int16_t part) {
   BoxOf(part)->setText(ToQString(text));
   std::string& path = PartEntry(part).Path;
   path = TrimmedUpper(FromQString(BoxOf(part)->text()));
-  if (!DirectoryExists(path)) CreatePath(path, false);
+  // An empty row has no directory to make, which some systems would say for each of them.
+  if (!DirectoryExists(path) && !path.empty()) CreatePath(path, false);
 }
 
 void frmCartLocations::hideEvent(QHideEvent* event) {

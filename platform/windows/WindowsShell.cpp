@@ -48,6 +48,9 @@ class SystemShell : public Shell {
     // Some of the shell's folders are no folders of the disk.
     if (!found) return kPathNotFound;
     *path = text;
+    // A drive's root keeps its separator.
+    constexpr size_t kRootLength = 3;
+    if (path->size() > kRootLength && path->back() == '\\') path->pop_back();
     return kNoError;
   }
 

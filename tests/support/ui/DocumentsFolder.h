@@ -9,7 +9,6 @@ namespace logchecker {
 
 class DocumentsFolder {
  public:
-  // The system is told of it with a separator at its end, which both kinds allow.
   explicit DocumentsFolder(const TempFolder& folder);
   ~DocumentsFolder();
   DocumentsFolder(const DocumentsFolder&) = delete;

@@ -16,7 +16,7 @@ struct DocumentsFolder::Before {
 };
 
 DocumentsFolder::DocumentsFolder(const TempFolder& folder) : before_(std::make_unique<Before>()) {
-  before_->folders.setValue("Personal", QString::fromStdString(ToHostPath(folder.Path()) + "\\"));
+  before_->folders.setValue("Personal", QString::fromStdString(ToHostPath(folder.Path())));
   before_->folders.sync();
 }
 
