@@ -27,7 +27,7 @@ HEAVY = 1  # of them
 # Times what the reads alone take, and times the processor time of a store without list files of the
 # carts' own: of one that asks for them and has five, just written.
 FLOOR_MOST_TIMES = 1.5
-OWN_FILES_MOST_TIMES = 1.5
+OWN_FILES_MOST_TIMES = 2.5
 RECORD = 300
 CARTS_OF_A_PART = 1000
 # The heavy day's page: mistakes in that day, the check's own time that it may take, its size in MiB.

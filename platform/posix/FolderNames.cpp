@@ -47,6 +47,10 @@ bool IsPast(const timespec& stamp, int64_t tick) {
   return stamp.tv_nsec != 0 && stamp.tv_sec * kNanoseconds + stamp.tv_nsec < tick;
 }
 
+bool IsLongAgo(const FolderStamp& stamp, time_t now) {
+  return stamp.modified.tv_sec + kStampSeconds < now && stamp.changed.tv_sec + kStampSeconds < now;
+}
+
 // File systems of this machine that have each name in their listings and no other names.
 constexpr std::array<decltype(statfs::f_type), 6> kPlainFileSystems = {
     EXT4_SUPER_MAGIC, XFS_SUPER_MAGIC,       BTRFS_SUPER_MAGIC,
@@ -106,11 +110,9 @@ void FolderNames::Read(const std::string& hostFolder, const FolderStamp& stamp) 
   listed_ = errno == 0;
   plain_ = IsOnPlainFileSystem(directory);
   closedir(directory);
-  const bool isLongAgo =
-      stamp.modified.tv_sec + kStampSeconds < now && stamp.changed.tv_sec + kStampSeconds < now;
   // The stamps of this machine's own file systems come from the clock of the ticks.
   const bool isPast = plain_ && IsPast(stamp.modified, tick) && IsPast(stamp.changed, tick);
-  settled_ = listed_ && (isLongAgo || isPast);
+  settled_ = listed_ && (IsLongAgo(stamp, now) || isPast);
 }
 
 bool FolderNames::Find(const std::string& name, std::string* found, std::string* other) const {
@@ -128,7 +130,7 @@ bool FolderNames::Has(const std::string& name) const { return names_.count(Fold(
 // The tick before the look: what changes while it is made may be seen or not.
 bool FolderNames::Stands(const std::string& hostFolder) {
   const int64_t tick = gFolderCalls.tick();
-  if (tick == seenAt_) return true;
+  if (tick == seenAt_ && HasRested(stamp_)) return true;
   if (!HasStamp(hostFolder, stamp_)) return false;
   seenAt_ = tick;
   return true;
@@ -147,6 +149,8 @@ const FolderNames* NamesIn(const std::string& hostFolder) {
   names.Read(hostFolder, stamp);
   return &names;
 }
+
+bool HasRested(const FolderStamp& stamp) { return IsLongAgo(stamp, gFolderCalls.time(nullptr)); }
 
 bool HasStamp(const std::string& hostFolder, const FolderStamp& stamp) {
   FolderStamp now;

@@ -54,8 +54,7 @@ class FolderNames {
   bool Find(const std::string& name, std::string* found, std::string* other) const;
   // Whether there is one.
   bool Has(const std::string& name) const;
-  // Whether the folder still has its stamp. It is looked at once a tick: within one, no stamp tells
-  // a change.
+  // Whether the folder still has its stamp. One that has rested is looked at once a tick.
   bool Stands(const std::string& hostFolder);
 
  private:
@@ -79,8 +78,11 @@ const FolderNames* NamesIn(const std::string& hostFolder);
 // Whether a folder is there and has this stamp.
 bool HasStamp(const std::string& hostFolder, const FolderStamp& stamp);
 
-// Whether it is certain, at the price of one look at the folder a
-// tick, that nothing there bears `name` in
+// Whether nothing has changed for some seconds. Such a folder need not be looked at more than once
+// a tick; one that is being written is looked at each time.
+bool HasRested(const FolderStamp& stamp);
+
+// Whether it is certain, at the price of a look at the folder, that nothing there bears `name` in
 // any letter case. False says nothing.
 bool IsSurelyMissing(const std::string& hostFolder, const std::string& name);
 

@@ -109,14 +109,15 @@ std::unordered_map<std::string, Way>& KnownWays() {
   return known;
 }
 
-// The folders of its turns are looked at once a tick, as FolderNames::Stands has it.
+// The folders of its turns are looked at as FolderNames::Stands has it.
 const Way* KnownWayTo(const std::string& folder) {
   const auto place = KnownWays().find(folder);
   if (place == KnownWays().end()) return nullptr;
   Way& way = place->second;
   if (way.turns.empty()) return &way;
   const int64_t tick = gFolderCalls.tick();
-  if (tick == way.seenAt) return &way;
+  const auto rests = [](const Turn& turn) { return HasRested(turn.stamp); };
+  if (tick == way.seenAt && std::all_of(way.turns.begin(), way.turns.end(), rests)) return &way;
   const auto stands = [](const Turn& turn) { return HasStamp(turn.folder, turn.stamp); };
   if (!std::all_of(way.turns.begin(), way.turns.end(), stands)) return nullptr;
   way.seenAt = tick;

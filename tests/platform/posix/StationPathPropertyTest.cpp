@@ -197,6 +197,12 @@ RC_GTEST_PROP(StationPathProperty, AChangeWithinTheTickOfTheLookBeforeIsSeen, ()
   ChangeAndLook(folder.Path(), 15, false);
 }
 
+// What is kept of a folder from a tick behind its last change on.
+RC_GTEST_PROP(StationPathProperty, AChangeOfAFolderThatWasJustWrittenIsSeen, ()) {
+  const TempFolder folder;
+  ChangeAndLook(folder.Path(), 15, *rc::gen::arbitrary<bool>());
+}
+
 // Each folder counts as one that has not changed for long, and is kept.
 time_t InAnHour(time_t*) { return time(nullptr) + 3600; }
 
