@@ -6,7 +6,7 @@ cd "$(dirname "$0")/.."
 . scripts/tools.sh
 
 need "${benchmark_packages[@]}"
-build bench logcheck logchecker_bench soak_bench watch_soak desktop_bench report_bench browser_bench note_bench
+build bench logcheck reads_floor logchecker_bench soak_bench watch_soak desktop_bench report_bench browser_bench note_bench
 python3 bench/day.py
 python3 bench/stations.py
 python3 bench/store.py

@@ -14,10 +14,6 @@ int16_t GetCartPart(int32_t cartNumber) {
 
 int16_t PartsInUse() { return GetCartPart(gNumberOfCarts); }
 
-int16_t OwnFileNumber(const AudiowallPart& entry) {
-  return entry.HoldsNumber ? static_cast<int16_t>(entry.FileNumber) : int16_t{0};
-}
-
 AudiowallPart& PartEntry(int16_t part) { return gAudiowallParts.at(static_cast<size_t>(part - 1)); }
 
 }  // namespace logchecker

@@ -40,7 +40,9 @@ int16_t PartsInUse();
 
 // What the part's list file is read under: its number while that is its own, else 0, which no file
 // has.
-int16_t OwnFileNumber(const AudiowallPart& entry);
+inline int16_t OwnFileNumber(const AudiowallPart& entry) {
+  return entry.HoldsNumber ? static_cast<int16_t>(entry.FileNumber) : int16_t{0};
+}
 
 // The entry of a part, from 1 to 11.
 AudiowallPart& PartEntry(int16_t part);

@@ -40,27 +40,34 @@ int16_t ReadyPartOf(int32_t cartNumber, AudiowallPart** entry) {
   return kOutOfReach;
 }
 
-int32_t RecordNumberOf(int32_t cartNumber, const AudiowallPart& entry) {
-  return cartNumber - static_cast<int32_t>(&entry - gAudiowallParts.data()) * kCartsOfAPart;
+// Whether the cart has a list file of its own; *error is what reading it gave.
+bool ReadFromOwnListFile(int32_t cartNumber, CartRecord* record, int32_t* error) {
+  const std::string file = GetCartFileStem(cartNumber) + ".LST";
+  if (!(GetFileLength(file) > 0)) return false;
+  *error = ReadOwnListFile(file, record);
+  if (!Succeeded(*error)) TellUnreadableCart(cartNumber, file, *error);
+  return true;
 }
 
-// Reads the cart's record as far as there is one, and returns an error number.
-int16_t ReadRecord(int32_t cartNumber, AudiowallPart& entry, CartRecord* record) {
-  if (gAudioSettings.UseIndividualCartListFiles) {
-    const std::string file = GetCartFileStem(cartNumber) + ".LST";
-    if (GetFileLength(file) > 0) {
-      const int32_t error = ReadOwnListFile(file, record);
-      if (!Succeeded(error)) TellUnreadableCart(cartNumber, file, error);
-      return static_cast<int16_t>(error);
-    }
+int32_t ReadFailed(int32_t cartNumber, AudiowallPart& entry, int32_t error) {
+  SetError(error);
+  entry.State = kPartUnusable;
+  TellUnreadableCart(cartNumber, entry.FullFileName, error);
+  return error;
+}
+
+// Reads the cart's record as far as there is one, and returns an error number. Behind the system's
+// call each return costs more than elsewhere, so this is part of its callers.
+inline int32_t ReadRecord(int32_t cartNumber, AudiowallPart& entry, CartRecord* record) {
+  int32_t error = kNoError;
+  if (gAudioSettings.UseIndividualCartListFiles &&
+      ReadFromOwnListFile(cartNumber, record, &error)) {
+    return error;
   }
-  const int32_t number = RecordNumberOf(cartNumber, entry);
-  const int32_t error = Os().files.GetRecord(OwnFileNumber(entry), number, record);
-  if (!Succeeded(error)) {
-    entry.State = kPartUnusable;
-    TellUnreadableCart(cartNumber, entry.FullFileName, error);
-  }
-  return static_cast<int16_t>(error);
+  const auto partsBefore = static_cast<int32_t>(&entry - gAudiowallParts.data());
+  error =
+      Os().files.GetRecord(OwnFileNumber(entry), cartNumber - partsBefore * kCartsOfAPart, record);
+  return error == kNoError ? error : ReadFailed(cartNumber, entry, error);
 }
 
 // A record without a played stretch plays from its beginning to its end.
@@ -84,7 +91,7 @@ int16_t LoadCartInfo(CartInfo& info, int32_t cartNumber) {
   int16_t result = ReadyPartOf(cartNumber, &entry);
   if (result == 0) {
     record = gBlankCartRecord;
-    result = ReadRecord(cartNumber, *entry, &record);
+    result = static_cast<int16_t>(ReadRecord(cartNumber, *entry, &record));
   }
   if (HoldsCart(record, result)) {
     RepairPlayedStretch(record);
@@ -107,7 +114,7 @@ int16_t LoadCartLengths(CartLengths& lengths, int32_t cartNumber) {
     record.StartPoint = gBlankCartRecord.StartPoint;
     record.EndPoint = gBlankCartRecord.EndPoint;
     record.PlayLength = gBlankCartRecord.PlayLength;
-    result = ReadRecord(cartNumber, *entry, &record);
+    result = static_cast<int16_t>(ReadRecord(cartNumber, *entry, &record));
   }
   if (HoldsCart(record, result)) {
     RepairPlayedStretch(record);

@@ -3,6 +3,7 @@
 # windows_runtime copies them into the build's folder of programs, and install_windows_runtime() into an
 # installation.
 
+include_guard(GLOBAL)
 set(windows_runtime_libraries Qt6Core.dll Qt6Gui.dll Qt6PrintSupport.dll Qt6Widgets.dll)
 # Notes have pictures, of which this is the one kind that the toolkit reads by a plugin.
 set(windows_runtime_plugins imageformats/qjpeg.dll platforms/qwindows.dll styles/qwindowsvistastyle.dll)

@@ -35,15 +35,7 @@ constexpr NumberedText kTexts[] = {
 
 ErrorState gErrorState;
 
-void ClearError() {
-  if (gErrorState.Number != kNoError) gErrorState = ErrorState();
-}
-
-bool Succeeded(int32_t error) {
-  if (error == kNoError) return true;
-  gErrorState = {error, ErrorText(error)};
-  return false;
-}
+void SetError(int32_t error) { gErrorState = {error, ErrorText(error)}; }
 
 std::string ErrorText(int32_t number) {
   for (const NumberedText& row : kTexts) {

@@ -18,10 +18,17 @@ struct ErrorState {
 
 extern ErrorState gErrorState;
 
-void ClearError();
+inline void ClearError() {
+  if (gErrorState.Number != kNoError) gErrorState = ErrorState();
+}
+
+void SetError(int32_t error);
 
 // Takes the result of a platform call into the error state when it is a failure. True on success.
-bool Succeeded(int32_t error);
+inline bool Succeeded(int32_t error) {
+  if (error != kNoError) SetError(error);
+  return error == kNoError;
+}
 
 // The system's text for an error number; empty for a number that has none.
 std::string ErrorText(int32_t number);

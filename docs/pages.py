@@ -87,7 +87,7 @@ class Links:
 
 
 def as_html(text):
-    return markdown.markdown(text, extensions=EXTENSIONS, output_format="html")
+    return markdown.markdown(text, extensions=EXTENSIONS, output_format="html", tab_length=3)
 
 
 def write(folder, name, title, body, footer=""):
@@ -99,6 +99,8 @@ def write_guide(folder, links, opening, tasks):
     title = opening.partition("\n")[0].lstrip("# ").strip()
     write(folder, "index", title, links.turn(as_html(opening), "guide.md"))
     for number, (heading, text) in enumerate(tasks):
+        # What is below a task's heading is one step higher on a page of its own.
+        text = re.sub(r"^##(#+ )", r"#\1", text, flags=re.MULTILINE)
         body = f"<h1>{html.escape(heading)}</h1>\n" + links.turn(as_html(text), "guide.md")
         footer = ""
         if number + 1 < len(tasks):

@@ -50,9 +50,9 @@ void TellPassedOverBreaks(DayReport& report, const std::vector<float>& timesComp
     const LogGrid& grid = gSplits(split.number).gridLog;
     PassedOver midnight;
     PassedOver others;
-    for (int32_t row = 1; row < grid.Rows(); ++row) {
+    for (const BreakReport& one : split.breakList) {
+      const int32_t row = one.row;
       const std::string_view text = grid.Text(row, kTimeColumn);
-      if (text.empty() || !grid.IsAdvertRow(row)) continue;
       const float time = grid.RowTime(row);
       if (text == kMidnightText) {
         midnight.Add(row, text, "the comparison passes over that time");

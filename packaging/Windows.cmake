@@ -1,12 +1,17 @@
-# A zip to unpack anywhere: logcheck.exe, its licences, the documents, and the task that runs it each day.
+# The packages for Windows: a zip of logcheck.exe for servers, to be unpacked anywhere, and an installer of all
+# three programs.
 
 set(CPACK_GENERATOR ZIP)
-set(CPACK_PACKAGE_FILE_NAME "logcheck-${PROJECT_VERSION}-windows-x64")
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_SOURCE_DIR}/windows/generator.cmake")
+execute_process(COMMAND date -u -d "${LOGCHECKER_RELEASE_DATE}" +%s
+  OUTPUT_VARIABLE CPACK_LOGCHECKER_RELEASE_SECONDS OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+set(CPACK_LOGCHECKER_BUILD "${PROJECT_BINARY_DIR}")
 
-install(TARGETS logcheck DESTINATION .)
-install(FILES WINDOWS.txt DESTINATION . RENAME README.txt)
-install(FILES "${PROJECT_SOURCE_DIR}/LICENSE" DESTINATION . RENAME LICENSE.txt)
-install(FILES "${PROJECT_SOURCE_DIR}/THIRD-PARTY-NOTICES.md" nightly/logcheck-task.xml DESTINATION .)
-install(FILES ${documents} DESTINATION docs)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/pictures" DESTINATION docs)
+# What is made for the packages alone, and not in every build.
+add_custom_target(package_files DEPENDS logcheck)
+
+include(WindowsZip.cmake)
+if(LOGCHECKER_DESKTOP)
+  include(WindowsInstaller.cmake)
+endif()

@@ -35,8 +35,9 @@ int32_t FileTable::Open(int16_t number, HostMode mode, const std::string& path,
   slot.file = std::move(file);
   slot.recordLength = recordLength;
   slot.buffer.clear();
+  slot.count = 0;
   slot.used = 0;
-  slot.bufferStart = 0;
+  slot.aheadStart = 0;
   return kNoError;
 }
 
@@ -113,27 +114,28 @@ int32_t FileTable::Seek(int16_t number, int64_t position) {
   Slot* slot = OpenSlot(number, HostMode::kInput);
   if (slot == nullptr) return kBadFileNumber;
   if (position < 1) return kInvalidCall;
-  slot->buffer.clear();
+  slot->count = 0;
   slot->used = 0;
-  slot->bufferStart = position - 1;
+  slot->aheadStart = position - 1;
   return kNoError;
 }
 
 int32_t FileTable::Position(int16_t number, int64_t* position) {
   const Slot* slot = OpenSlot(number, HostMode::kInput);
   if (slot == nullptr) return kBadFileNumber;
-  *position = slot->bufferStart + static_cast<int64_t>(slot->used) + 1;
+  *position = slot->aheadStart + static_cast<int64_t>(slot->used) + 1;
   return kNoError;
 }
 
 int32_t FileTable::Fill(Slot& slot) {
-  if (slot.used < slot.buffer.size()) return kNoError;
-  slot.bufferStart += static_cast<int64_t>(slot.buffer.size());
+  if (slot.used < slot.count) return kNoError;
+  if (!slot.ahead) slot.ahead = std::make_unique_for_overwrite<char[]>(kReadAhead);
+  slot.aheadStart += static_cast<int64_t>(slot.count);
+  slot.count = 0;
   slot.used = 0;
-  slot.buffer.resize(kReadAhead);
   size_t got = 0;
-  const int32_t error = slot.file->ReadAt(slot.bufferStart, slot.buffer.data(), kReadAhead, &got);
-  slot.buffer.resize(error == kNoError ? got : 0);
+  const int32_t error = slot.file->ReadAt(slot.aheadStart, slot.ahead.get(), kReadAhead, &got);
+  if (error == kNoError) slot.count = got;
   return error;
 }
 
@@ -141,7 +143,7 @@ int32_t FileTable::EndOfFile(int16_t number, bool* atEnd) {
   Slot* slot = OpenSlot(number, HostMode::kInput);
   if (slot == nullptr) return kBadFileNumber;
   const int32_t error = Fill(*slot);
-  *atEnd = slot->used >= slot->buffer.size();
+  *atEnd = slot->used >= slot->count;
   return error;
 }
 
@@ -149,14 +151,14 @@ int32_t FileTable::Peek(int16_t number, std::string_view* bytes) {
   Slot* slot = OpenSlot(number, HostMode::kInput);
   if (slot == nullptr) return kBadFileNumber;
   const int32_t error = Fill(*slot);
-  *bytes = std::string_view(slot->buffer).substr(slot->used);
+  *bytes = std::string_view(slot->ahead.get(), slot->count).substr(slot->used);
   return error;
 }
 
 void FileTable::Skip(int16_t number, size_t count) {
   Slot* slot = OpenSlot(number, HostMode::kInput);
   if (slot == nullptr) return;
-  const size_t left = slot->buffer.size() - slot->used;
+  const size_t left = slot->count - slot->used;
   slot->used += count < left ? count : left;
 }
 
@@ -180,9 +182,8 @@ int32_t FileTable::GetRecord(int16_t number, int64_t recordNumber, void* record)
   const Slot* slot = OpenSlot(number, HostMode::kRandom);
   if (slot == nullptr) return kBadFileNumber;
   if (recordNumber < 1) return kInvalidCall;
-  size_t got = 0;
   return slot->file->ReadAt((recordNumber - 1) * slot->recordLength, record,
-                            static_cast<size_t>(slot->recordLength), &got);
+                            static_cast<size_t>(slot->recordLength), nullptr);
 }
 
 int32_t FileTable::PutRecord(int16_t number, int64_t recordNumber, const void* record) {

@@ -20,7 +20,8 @@ class HostFile {
  public:
   virtual ~HostFile() = default;
 
-  // Reads up to `size` bytes from `offset` (from 0); *got is less only at the end of the file.
+  // Reads up to `size` bytes from `offset` (from 0); *got is less only at the end of the file, and
+  // nullptr serves where that does not matter.
   virtual int32_t ReadAt(int64_t offset, void* data, size_t size, size_t* got) = 0;
   virtual int32_t WriteAt(int64_t offset, const void* data, size_t size) = 0;
   // Adds behind what is there. For kAppend and kReplace.
@@ -64,13 +65,16 @@ class FileTable : public Files {
     HostMode mode = HostMode::kInput;
     std::unique_ptr<HostFile> file;
     int32_t recordLength = 0;
-    // Input: the bytes read ahead, how many of them are used up, and where they begin in the file.
     // Output: the bytes that wait to be written.
     std::string buffer;
+    // Input: the bytes read ahead, their count, how many of them are used up, and where they begin
+    // in the file.
+    std::unique_ptr<char[]> ahead;
+    size_t count = 0;
+    size_t used = 0;
+    int64_t aheadStart = 0;
     // The first failure of a write; a replacement that has one is never committed.
     int32_t writeError = 0;
-    size_t used = 0;
-    int64_t bufferStart = 0;
   };
 
   int32_t Open(int16_t number, HostMode mode, const std::string& path, int32_t recordLength);

@@ -11,8 +11,8 @@ build debug logchecker_pictures logcheck
 rm -rf build/pictures
 build/debug/bin/logchecker_pictures build/pictures 2>/dev/null
 LOGCHECK=$PWD/build/debug/bin/logcheck node tests/pages/pictures.mjs build/pictures
-for name in main-4-splits-1024-checked results-wide results-none select-hour about split-settings \
-  general-settings cart-locations cart-browser find-cart-found \
+for name in main-4-splits-1024-checked main-5-splits-lined-up results-5-splits results-wide results-none \
+  select-hour about split-settings general-settings cart-locations cart-browser print-preview find-cart-found \
   day-page board board-phone; do
   cp "build/pictures/$name.png" docs/pictures/
 done

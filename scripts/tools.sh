@@ -48,9 +48,9 @@ test_packages=("${build_packages[@]}" acl libgtest-dev libgmock-dev librapidchec
   fonts-dejavu-core poppler-utils cups systemd parallel openssh-client openssh-server bsdutils
   at-spi2-core dbus python3-pyatspi)
 windows_qt_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix qt6-base-dev qt6-base-dev-tools dpkg-dev)
-windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3 python3-markdown
-  xvfb fonts-wine fonts-liberation fonts-dejavu-core poppler-utils cups)
-package_packages=("${build_packages[@]}" "${windows_packages[@]}" dpkg-dev desktop-file-utils appstream
+windows_packages=("${plain_packages[@]}" "${windows_qt_packages[@]}" librsvg2-bin wine64 googletest python3
+  python3-markdown xvfb fonts-wine fonts-liberation fonts-dejavu-core poppler-utils cups)
+package_packages=("${build_packages[@]}" "${windows_packages[@]}" nsis dpkg-dev desktop-file-utils appstream
   python3 xvfb openbox xdotool x11-utils imagemagick fonts-dejavu-core)
 lint_packages=("${test_packages[@]}" clang-format clang-tidy iwyu python3)
 fuzz_packages=("${plain_packages[@]}" clang libclang-rt-14-dev libgumbo-dev llvm)

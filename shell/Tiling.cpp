@@ -4,11 +4,13 @@
 
 namespace logchecker {
 
-std::vector<TilePlace> TileVertically(int count, int areaWidth, int areaHeight, int leastWidth) {
+std::vector<TilePlace> TileVertically(int count, int areaWidth, int areaHeight, int leastWidth,
+                                      int leastHeight) {
   std::vector<TilePlace> places;
   if (count < 1) return places;
   const int most = std::max(areaWidth / std::max(leastWidth, 1), 1);
   const int rows = (count + most - 1) / most;
+  areaHeight = std::max(areaHeight, rows * leastHeight);
   // Rows of as even a length as can be, the longer ones first.
   for (int row = 0; row < rows; ++row) {
     const int inRow = count / rows + (row < count % rows ? 1 : 0);

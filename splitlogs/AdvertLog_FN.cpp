@@ -37,44 +37,42 @@ std::string NormaliseLogLine(std::string_view line) {
   return current;
 }
 
-LogLine::LogLine(std::string_view line) {
-  const bool isOld = IsOldForm(line);
-  if (isOld && line.size() >= kWholeOldLine) {
-    seconds_ = "00";
-    chain_ = Columns(line, 7, 10);
-    cart_ = Columns(line, 12, 15);
-    description_ = Columns(line, 17, 46);
-    reference_ = Mid(line, 52);
-  } else {
-    if (isOld) line = normalised_ = NormaliseLogLine(line);
-    seconds_ = Columns(line, 7, 8);
-    chain_ = Columns(line, 10, 13);
-    cart_ = Columns(line, 15, 22);
-    description_ = Columns(line, 24, 53);
-    reference_ = Mid(line, 60);
-  }
-  hoursAndMinutes_ = Columns(line, 1, 5);
+LogLine::LogLine(std::string_view line) : text_(line) {
+  if (!IsOldForm(line)) return;
+  hasOldColumns_ = line.size() >= kWholeOldLine;
+  if (!hasOldColumns_) text_ = normalised_ = NormaliseLogLine(line);
 }
 
-// Only the empty line has nothing in its first columns.
 float LogLine::Time() const {
-  if (hoursAndMinutes_.empty()) return -1.0F;
-  return static_cast<float>(Val(Columns(hoursAndMinutes_, 1, 2)) * 3600 +
-                            Val(Columns(hoursAndMinutes_, 4, 5)) * 60 + Val(seconds_));
+  if (text_.empty()) return -1.0F;
+  const double seconds = hasOldColumns_ ? 0 : Val(Columns(text_, 7, 8));
+  return static_cast<float>(Val(Columns(text_, 1, 2)) * 3600 + Val(Columns(text_, 4, 5)) * 60 +
+                            seconds);
+}
+
+std::string_view LogLine::Reference() const { return Mid(text_, hasOldColumns_ ? 52 : 60); }
+
+std::string_view LogLine::Description() const {
+  return hasOldColumns_ ? Columns(text_, 17, 46) : Columns(text_, 24, 53);
 }
 
 // The columns have room for no more digits than the number.
 int32_t LogLine::Cart() const {
+  const std::string_view cart = hasOldColumns_ ? Columns(text_, 12, 15) : Columns(text_, 15, 22);
   int32_t number = 0;
-  for (const char c : cart_) {
+  for (const char c : cart) {
     if (c == ' ') continue;
-    if (c < '0' || c > '9') return ToInt32(Val(cart_));
+    if (c < '0' || c > '9') return ToInt32(Val(cart));
     number = number * 10 + (c - '0');
   }
   return number;
 }
 
-std::string LogLine::TXChainCode() const { return ToUpper(Trim(chain_)); }
+std::string_view LogLine::TXChainColumns() const {
+  return hasOldColumns_ ? Columns(text_, 7, 10) : Columns(text_, 10, 13);
+}
+
+std::string LogLine::TXChainCode() const { return ToUpper(Trim(TXChainColumns())); }
 
 float GetLineTime(std::string_view line) { return LogLine(line).Time(); }
 

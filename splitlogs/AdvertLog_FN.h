@@ -46,16 +46,17 @@ class LogLine {
   LogLine& operator=(const LogLine&) = delete;
 
   float Time() const;
-  std::string_view Reference() const { return reference_; }
-  std::string_view Description() const { return description_; }
+  std::string_view Reference() const;
+  std::string_view Description() const;
   int32_t Cart() const;
   // What the TX chain code is made of, as it stands.
-  std::string_view TXChainColumns() const { return chain_; }
+  std::string_view TXChainColumns() const;
   std::string TXChainCode() const;
 
  private:
   std::string normalised_;  // of a short line of the old form
-  std::string_view hoursAndMinutes_, seconds_, chain_, cart_, description_, reference_;
+  std::string_view text_;
+  bool hasOldColumns_ = false;
 };
 
 }  // namespace logchecker

@@ -52,7 +52,7 @@ int32_t BreakTimeIndex::FirstAt(float seconds) const {
 int32_t BreakTimeIndex::FirstAtOrAfter(float seconds) const {
   Build();
   const auto place = FirstFrom(rises_, seconds);
-  return place != rises_.end() ? place->second : 0;
+  return place != rises_.end() && place->first >= seconds ? place->second : 0;
 }
 
 }  // namespace logchecker

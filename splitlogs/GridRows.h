@@ -1,4 +1,5 @@
-// The rows of a grid, in blocks that stay where they are while the grid grows.
+// The rows of a grid, in blocks that stay where they are while the grid grows, and that are made
+// when a row of theirs is first filled.
 #pragma once
 
 #include <array>
@@ -12,15 +13,24 @@ template <typename Row>
 class GridRows {
  public:
   size_t size() const { return size_; }
-  Row& operator[](size_t i) { return (*blocks_[i / kBlock])[i % kBlock]; }
-  const Row& operator[](size_t i) const { return (*blocks_[i / kBlock])[i % kBlock]; }
+  Row& operator[](size_t i) {
+    std::unique_ptr<Block>& block = blocks_[i / kBlock];
+    if (!block) block = std::make_unique<Block>();
+    return (*block)[i % kBlock];
+  }
+  const Row& operator[](size_t i) const {
+    static const Row empty{};
+    const std::unique_ptr<Block>& block = blocks_[i / kBlock];
+    return block ? (*block)[i % kBlock] : empty;
+  }
 
   // New rows are empty, those that were dropped and come back as well.
   void Resize(size_t size) {
     const size_t blocks = (size + kBlock - 1) / kBlock;
-    for (size_t i = size; i < size_ && i < blocks * kBlock; ++i) (*this)[i] = Row();
-    blocks_.resize(blocks < blocks_.size() ? blocks : blocks_.size());
-    while (blocks_.size() < blocks) blocks_.push_back(std::make_unique<Block>());
+    for (size_t i = size; i < size_ && i < blocks * kBlock; ++i) {
+      if (blocks_[i / kBlock]) (*this)[i] = Row();
+    }
+    blocks_.resize(blocks);
     size_ = size;
   }
 

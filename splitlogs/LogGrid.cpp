@@ -1,11 +1,13 @@
 #include "splitlogs/LogGrid.h"
 
 #include <algorithm>
+#include <limits>
 #include <string>
 
 #include "common/ErrorState.h"
 #include "common/Numbers.h"
 #include "common/TextHelpers.h"
+#include "common/TimeText.h"
 
 namespace logchecker {
 
@@ -31,8 +33,8 @@ LogGrid::LogGrid() { SetRows(1); }
 
 void LogGrid::SetHeadings() {
   for (int32_t column = 0; column < kLogColumns; ++column) {
-    rows_[0].texts[static_cast<size_t>(column)] =
-        texts_.Keep(kLogColumnHeaders[static_cast<size_t>(column)].text);
+    rows_[0].cells[static_cast<size_t>(column)] =
+        GridCell(texts_.Keep(kLogColumnHeaders[static_cast<size_t>(column)].text));
   }
 }
 
@@ -66,24 +68,32 @@ void LogGrid::RefuseColumn(int32_t column) {
 void LogGrid::SetText(int32_t row, int32_t column, std::string_view text) {
   RequireRow(row);
   RequireColumn(column);
-  GridRow& cells = At(row);
   if (column == kTimeColumn) times_.SetTime(row, TimeOfText(text));
-  if (column == kCartColumn) cells.cart = ToInt32(Val(text));
-  if (column == kPositionColumn) cells.isAdvert = !Trim(text).empty();
-  cells.texts[static_cast<size_t>(column)] = texts_.Keep(text);
+  At(row).cells[static_cast<size_t>(column)] = GridCell(texts_.Keep(text));
+  TellChange();
+}
+
+void LogGrid::SetLength(int32_t row, int32_t column, float seconds, bool hundredths) {
+  if (column != kLengthColumn) {
+    SetText(row, column, TimeDisplay::OfLength(seconds, LengthMask(hundredths)));
+    return;
+  }
+  RequireRow(row);
+  At(row).cells[kLengthColumn] = GridCell::OfLength(seconds, hundredths);
   TellChange();
 }
 
 void LogGrid::SetAdvert(int32_t row, const AdvertCells& cells) {
   RequireRow(row);
-  GridRow& advert = At(row);
-  advert.texts[kDescriptionColumn] = texts_.Keep(cells.description);
-  advert.texts[kReferenceColumn] = texts_.Keep(cells.reference);
-  advert.texts[kCartColumn] = texts_.KeepNumber(cells.cart);
-  advert.texts[kLengthColumn] = texts_.Keep(cells.length);
-  advert.texts[kPositionColumn] = texts_.KeepNumber(cells.position);
-  advert.cart = cells.cart;
-  advert.isAdvert = true;
+  GridRow& at = At(row);
+  at.cells[kDescriptionColumn] = GridCell(texts_.Keep(cells.description));
+  at.cells[kReferenceColumn] = GridCell(texts_.Keep(cells.reference));
+  at.cells[kCartColumn] = GridCell::OfNumber(cells.cart);
+  at.cells[kLengthColumn] = cells.length ? GridCell::OfLength(*cells.length, cells.hundredths)
+                                         : GridCell(texts_.Keep(kNoTimeText));
+  at.cells[kPositionColumn] = cells.position <= std::numeric_limits<int32_t>::max()
+                                  ? GridCell::OfNumber(static_cast<int32_t>(cells.position))
+                                  : GridCell(texts_.Keep(std::to_string(cells.position)));
   SetBackColour(row, kLengthColumn, cells.lengthColour);
   TellChange();
 }
@@ -151,6 +161,14 @@ void LogGrid::SetRedraw(bool redraw) {
   redraw_ = redraw;
   TellChange();
   TellSelection();
+}
+
+bool LogGrid::HasPositionText(int32_t row) const {
+  return !Trim(At(row).cells[kPositionColumn].Text(texts_)).empty();
+}
+
+int32_t LogGrid::CartOfText(int32_t row) const {
+  return ToInt32(Val(At(row).cells[kCartColumn].Text(texts_)));
 }
 
 void LogGrid::TellChange() {

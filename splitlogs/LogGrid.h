@@ -10,6 +10,7 @@
 
 #include "common/ListView.h"
 #include "splitlogs/BreakTimeIndex.h"
+#include "splitlogs/GridCell.h"
 #include "splitlogs/GridRows.h"
 #include "splitlogs/TextPool.h"
 
@@ -38,7 +39,8 @@ struct AdvertCells {
   std::string_view description;
   std::string_view reference;
   int32_t cart = 0;
-  std::string_view length;
+  std::optional<float> length;  // seconds; "--:--" without
+  bool hundredths = false;      // whether the length shows them
   int32_t lengthColour = kGridOwnColour;
 };
 
@@ -65,10 +67,12 @@ class LogGrid {
   std::string_view Text(int32_t row, int32_t column) const {
     RequireRow(row);
     RequireColumn(column);
-    return texts_.Text(At(row).texts[static_cast<size_t>(column)]);
+    return At(row).cells[static_cast<size_t>(column)].Text(texts_);
   }
   void SetText(int32_t row, int32_t column, std::string_view text);
-  // Does what setting each of the cells by itself would do.
+  // The same with the text of a length in seconds.
+  void SetLength(int32_t row, int32_t column, float seconds, bool hundredths);
+  // Does what setting the text of each of the cells by itself would do.
   void SetAdvert(int32_t row, const AdvertCells& cells);
   int32_t BackColour(int32_t row, int32_t column) const;
 
@@ -104,12 +108,14 @@ class LogGrid {
   // Whether the row belongs to a break.
   bool IsAdvertRow(int32_t row) const {
     RequireRow(row);
-    return At(row).isAdvert;
+    const GridCell& position = At(row).cells[kPositionColumn];
+    return !position.IsEmpty() && (position.Number() || HasPositionText(row));
   }
   // The number that column 3 of the row gives, 0 for none.
   int32_t RowCart(int32_t row) const {
     RequireRow(row);
-    return At(row).cart;
+    const std::optional<int32_t> cart = At(row).cells[kCartColumn].Number();
+    return cart ? *cart : CartOfText(row);
   }
   // The time that column 0 of the row gives, in seconds: whole minutes, 0 for an empty cell.
   float RowTime(int32_t row) const {
@@ -121,15 +127,14 @@ class LogGrid {
   int32_t FirstRowAtOrAfter(float seconds) const { return times_.FirstAtOrAfter(seconds); }
 
  private:
-  // What is read of a cell's text again and again is kept in step with the text.
   struct GridRow {
-    std::array<PooledText, kLogColumns> texts;
-    int32_t cart = 0;
-    bool isAdvert = false;
+    mutable std::array<GridCell, kLogColumns> cells;
   };
 
   GridRow& At(int32_t row) { return rows_[static_cast<size_t>(row)]; }
   const GridRow& At(int32_t row) const { return rows_[static_cast<size_t>(row)]; }
+  bool HasPositionText(int32_t row) const;
+  int32_t CartOfText(int32_t row) const;
   void SetHeadings();
   void SetBackColour(int32_t row, int32_t column, int32_t colour);
   void RequireRow(int32_t row) const {
@@ -144,7 +149,7 @@ class LogGrid {
   void TellSelection();
 
   GridRows<GridRow> rows_;
-  TextPool texts_;
+  mutable TextPool texts_;
   BreakTimeIndex times_;
   // By column and row; the rows that are not there yet have none of their own.
   std::array<std::vector<int32_t>, kLogColumns> backColours_;

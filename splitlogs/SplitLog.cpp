@@ -73,14 +73,12 @@ class GridFiller {
     cells.description = line.Description();
     cells.reference = line.Reference();
     cells.cart = line.Cart();
-    cells.length = kNoTimeText;
+    cells.hundredths = gGeneralSettings.DisplayAdvertHH;
     cells.lengthColour = kRed;
     CartLengths cart;
     LoadCartLengths(cart, cells.cart);
-    TimeDisplay length;
     if (cart.PlayLength > 0) {
-      length = TimeDisplay::OfLength(cart.Length, LengthMask(gGeneralSettings.DisplayAdvertHH));
-      cells.length = length;
+      cells.length = cart.Length;
       cells.lengthColour = kWhite;
       breakTotal_ += cart.Length;
     }
@@ -93,9 +91,7 @@ class GridFiller {
     grid_.SetText(row_, kPositionColumn, "");
     if (!inBreak_) return;
     if (breakTotal_ > 0) {
-      grid_.SetText(
-          row_, kLengthColumn,
-          TimeDisplay::OfLength(breakTotal_, LengthMask(gGeneralSettings.DisplayBreakHH)));
+      grid_.SetLength(row_, kLengthColumn, breakTotal_, gGeneralSettings.DisplayBreakHH);
     } else {
       grid_.SetText(row_, kLengthColumn, kNoTimeText);
     }

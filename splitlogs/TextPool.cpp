@@ -1,7 +1,6 @@
 #include "splitlogs/TextPool.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstring>
 #include <limits>
 
@@ -19,25 +18,15 @@ void TextPool::Grow(size_t size) {
   chunks_.resize(chunks_.size() + (left_ - 1) / kChunk);
 }
 
-PooledText TextPool::Take(size_t size) {
-  const PooledText kept{static_cast<uint32_t>(place_), static_cast<uint32_t>(size)};
-  next_ += size;
-  place_ += size;
-  left_ -= size;
-  return kept;
-}
-
 PooledText TextPool::Keep(std::string_view text) {
   if (text.empty()) return {};
   if (text.size() > left_) Grow(text.size());
   std::memcpy(next_, text.data(), text.size());
-  return Take(text.size());
-}
-
-PooledText TextPool::KeepNumber(int64_t number) {
-  constexpr size_t kMostDigits = 20;
-  if (left_ < kMostDigits) Grow(kMostDigits);
-  return Take(static_cast<size_t>(std::to_chars(next_, next_ + left_, number).ptr - next_));
+  const PooledText kept{static_cast<uint32_t>(place_), static_cast<uint32_t>(text.size())};
+  next_ += text.size();
+  place_ += text.size();
+  left_ -= text.size();
+  return kept;
 }
 
 void TextPool::Clear() {

@@ -21,8 +21,6 @@ class TextPool {
   // A copy of `text` that holds until Clear or the end of the pool. Stops the program when the pool
   // would hold more than 4 GiB.
   PooledText Keep(std::string_view text);
-  // The same of a number in decimal.
-  PooledText KeepNumber(int64_t number);
   std::string_view Text(PooledText kept) const {
     if (kept.size == 0) return {};
     return {chunks_[kept.place / kChunk].get() + kept.place % kChunk, kept.size};
@@ -34,8 +32,6 @@ class TextPool {
 
   // Makes room for a text of this size.
   void Grow(size_t size);
-  // Takes what has been written at next_.
-  PooledText Take(size_t size);
 
   // A longer chunk takes the places of several and holds one text.
   std::vector<std::unique_ptr<char[]>> chunks_;

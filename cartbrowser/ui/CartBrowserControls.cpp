@@ -53,6 +53,7 @@ int WishedHeight(const QWidget* control) { return ToTwips(control->sizeHint().he
 void frmCartBrowser::MakeControls() {
   setObjectName("frmCartBrowser");
   SetGuidePage(*this, kGuideBrowser);
+  KeepF1(*this);
   setWindowTitle("Cart Browser");
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                  Qt::WindowCloseButtonHint | Qt::WindowStaysOnTopHint);

@@ -25,6 +25,7 @@
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
+#include "common/ui/VisibleFocus.h"
 #include "platform/Platform.h"
 #include "platform/StandardStreams.h"
 #include "platform/StationText.h"
@@ -180,6 +181,7 @@ int RunCartBrowser(int argc, char** argv, const CartBrowserParts& parts) {
   HoldButtonRules();
   HoldGuideKey();
   HoldCutTextTips();
+  HoldVisibleFocus();
   return Run(arguments, parts);
 }
 

@@ -131,8 +131,9 @@ void CartRowsPanel::Take(const QWidget* row) {
 }
 
 void CartRowsPanel::TellCurrentRow() {
-  if (!marked_ || !isVisible() || !isActiveWindow()) return;
   marked_ = false;
+  if (!isVisible() || !isActiveWindow() || browser_.CurrentCart() == knownCart_) return;
+  KnowCurrentCart();
   told_ = true;
   QWidget* row = RowAt(browser_.CurrentRow() - 1);
   TellCartRow(row, std::exchange(toldRow_, row));

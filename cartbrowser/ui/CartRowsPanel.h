@@ -43,10 +43,11 @@ class CartRowsPanel : public QFrame {
   // number, or goes to another control.
   bool IsTold() const { return told_; }
   void StopTelling() { told_ = false; }
-  // Tells the current row, when it has been marked since it was last told and the window is active.
+  // Tells the current row, when it shows another cart than when it was last told, as soon as the
+  // window is active.
   void TellCurrentRow();
-  // Whatever has been marked needs no telling.
-  void ForgetMarks() { marked_ = false; }
+  // The cart that is current now needs no telling.
+  void KnowCurrentCart() { knownCart_ = browser_.CurrentCart(); }
 
   // The width that the buttons have, in twips.
   int ButtonWidth() const;
@@ -65,7 +66,8 @@ class CartRowsPanel : public QFrame {
 
   CartBrowser& browser_;
   std::vector<RowWidgets> rows_;
-  bool marked_ = false;  // a row, since one was last told
+  bool marked_ = false;    // a row is, and will be looked at
+  int32_t knownCart_ = 0;  // the user knows that it is the current one
   bool told_ = false;
   QPointer<QWidget> toldRow_;  // the last one that was
   int turned_ = 0;             // by the wheel, what is not a whole row yet

@@ -126,7 +126,7 @@ void frmCartBrowser::showEvent(QShowEvent* event) {
   if (pnlDescription_->isHidden() == ShowDescription) Guarded([this] { LayOut(); });
   Guarded([this] { Activate(); });
   // Who comes in begins in the box for a number.
-  pnlCartLabels_->ForgetMarks();
+  pnlCartLabels_->KnowCurrentCart();
 }
 
 void frmCartBrowser::hideEvent(QHideEvent* event) {

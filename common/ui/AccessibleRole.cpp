@@ -25,8 +25,8 @@ void SetAccessibleRole(QWidget& widget, QAccessible::Role role) {
   }();
   Q_UNUSED(used);
   widget.setProperty(kRole, static_cast<int>(role));
-  // One that somebody has asked for already is of the toolkit's making.
-  if (!QAccessible::isActive()) return;
+  // The toolkit makes one of its own at the widget's first property, whether anybody listens or
+  // not.
   QAccessibleInterface* made = QAccessible::queryAccessibleInterface(&widget);
   if (made->role() != role) {
     QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(made));

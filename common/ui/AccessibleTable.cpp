@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QTableView>
 #include <QTreeView>
+#include <utility>
 
 #include "common/ui/AccessibleTableCell.h"
 
@@ -25,7 +26,11 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
  public:
   explicit AccessibleTable(QAbstractItemView* view)
       : QAccessibleWidget(view, QAccessible::Table), view_(*view) {}
-  ~AccessibleTable() override { Forget(); }
+  ~AccessibleTable() override {
+    for (const QAccessible::Id id : std::as_const(cells_)) {
+      QAccessible::deleteAccessibleInterface(id);
+    }
+  }
 
   void* interface_cast(QAccessible::InterfaceType type) override {
     if (type == QAccessible::TableInterface) return static_cast<QAccessibleTableInterface*>(this);
@@ -113,8 +118,17 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
   bool selectColumn(int /*column*/) override { return false; }
   bool unselectColumn(int /*column*/) override { return false; }
 
-  // A cell is of a place, whose row another one may have taken.
-  void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override { Forget(); }
+  // A cell is of a place, whose row another one may have taken. Headings stay.
+  void modelChange(QAccessibleTableModelChangeEvent* /*event*/) override {
+    for (auto cell = cells_.begin(); cell != cells_.end();) {
+      if (cell.key().first < 0) {
+        ++cell;
+        continue;
+      }
+      QAccessible::deleteAccessibleInterface(cell.value());
+      cell = cells_.erase(cell);
+    }
+  }
 
  private:
   using Place = std::pair<int, int>;  // the row and the model's column
@@ -152,11 +166,6 @@ class AccessibleTable : public QAccessibleWidget, public QAccessibleTableInterfa
       view_.selectionModel()->select(view_.model()->index(row, 0), how | QItemSelectionModel::Rows);
     }
     return isRowSelected(row) == (how == QItemSelectionModel::Select);
-  }
-
-  void Forget() {
-    const QHash<Place, QAccessible::Id> cells = std::exchange(cells_, {});
-    for (const QAccessible::Id id : cells) QAccessible::deleteAccessibleInterface(id);
   }
 
   QAbstractItemView& view_;

@@ -157,7 +157,9 @@ class AccessibleHeading : public PartOfView, public QAccessibleActionInterface {
   AccessibleHeading(QAbstractItemView& view, QHeaderView& header, int column)
       : PartOfView(view), header_(&header), column_(column) {}
 
-  bool isValid() const override { return PartOfView::isValid() && header_ != nullptr; }
+  bool isValid() const override {
+    return PartOfView::isValid() && header_ != nullptr && column_ < header_->count();
+  }
   void* interface_cast(QAccessible::InterfaceType type) override {
     const bool acts = type == QAccessible::ActionInterface && isValid();
     if (!acts || !header_->sectionsClickable()) return nullptr;

@@ -84,19 +84,21 @@ void CellDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
   const QVariant own = index.data(Qt::BackgroundRole);
   const QPalette::ColorGroup group =
       cell.state.testFlag(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-  QColor text = cell.palette.color(group, selected ? QPalette::HighlightedText : QPalette::Text);
+  const QColor selectedText = cell.palette.color(group, QPalette::HighlightedText);
+  const QColor highlight =
+      ReadableUnder(selectedText, cell.palette.color(group, QPalette::Highlight));
+  QColor text = selected ? selectedText : cell.palette.color(group, QPalette::Text);
   painter->save();
   if (own.isValid()) {
-    painter->fillRect(cell.rect, own.value<QColor>());
+    const QColor background = own.value<QColor>();
     text = index.data(Qt::ForegroundRole).value<QColor>();
+    painter->fillRect(cell.rect, background);
     if (selected) {
-      const QColor highlight = cell.palette.color(group, QPalette::Highlight);
       painter->fillRect(QRect(cell.rect.topLeft(), QSize(kMarkerWidth, cell.rect.height())),
-                        SeenOn(own.value<QColor>(), highlight, text));
+                        SeenOn(background, highlight, text));
     }
   } else if (selected) {
-    painter->fillRect(cell.rect,
-                      ReadableUnder(text, cell.palette.color(group, QPalette::Highlight)));
+    painter->fillRect(cell.rect, highlight);
   }
   if (index.data(kSetOffRole).toBool()) SetOff(*painter, cell, text);
   painter->setPen(text);

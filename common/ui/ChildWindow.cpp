@@ -1,5 +1,8 @@
 #include "common/ui/ChildWindow.h"
 
+#include <QMainWindow>
+#include <QMenuBar>
+
 #include "common/ui/TitleBarStyle.h"
 #include "common/ui/Twips.h"
 
@@ -42,6 +45,21 @@ void ChildWindow::resizeEvent(QResizeEvent* event) {
 void ChildWindow::showEvent(QShowEvent* event) {
   QMdiSubWindow::showEvent(event);
   HoldSizeAndLayOut();
+}
+
+// While the window fills the frame its buttons stand in the frame's menu bar. They are put there
+// once the change is through.
+void ChildWindow::changeEvent(QEvent* event) {
+  QMdiSubWindow::changeEvent(event);
+  if (event->type() != QEvent::WindowStateChange || !isMaximized()) return;
+  QMetaObject::invokeMethod(
+      this, [this] { StyleButtonsInMenuBar(); }, Qt::QueuedConnection);
+}
+
+void ChildWindow::StyleButtonsInMenuBar() {
+  auto* frame = qobject_cast<QMainWindow*>(window());
+  if (frame == nullptr) return;
+  if (QWidget* buttons = frame->menuBar()->cornerWidget()) buttons->setStyle(ReadableTitleBars());
 }
 
 void ChildWindow::focusInEvent(QFocusEvent* event) {

@@ -19,10 +19,12 @@ class ChildWindow : public QMdiSubWindow {
 
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
 
  private:
   void HoldSizeAndLayOut();
+  void StyleButtonsInMenuBar();
 };
 
 }  // namespace logchecker

@@ -37,7 +37,7 @@ QColor ReadableUnder(const QColor& text, QColor background) {
   for (int i = 0; i < kMostSteps && ContrastOf(text, background) < kTextContrast; ++i) {
     background = darker ? background.darker(kStep) : background.lighter(kStep);
   }
-  return background;
+  return QColor(background.rgb());  // as it is on the screen
 }
 
 }  // namespace logchecker

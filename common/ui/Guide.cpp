@@ -17,15 +17,21 @@ namespace logchecker {
 namespace {
 
 constexpr char kPageProperty[] = "guidePage";
+constexpr char kOwnKeyProperty[] = "ownF1";
 constexpr char kFolder[] = "/guide/";
 
-// Of the widget, or of the nearest around it. A dialog stands in the window that opened it.
-QString PageOf(const QWidget* widget) {
-  for (; widget != nullptr; widget = widget->parentWidget()) {
-    const QVariant page = widget->property(kPageProperty);
-    if (page.isValid()) return page.toString();
+// The widget, or the nearest around it, that has a page; none has one where this is null. A dialog
+// stands in the window that opened it.
+const QWidget* WidgetWithPage(const QWidget* widget) {
+  while (widget != nullptr && !widget->property(kPageProperty).isValid()) {
+    widget = widget->parentWidget();
   }
-  return kGuideTasks;
+  return widget;
+}
+
+bool KeepsF1(const QWidget* widget) {
+  const QWidget* found = WidgetWithPage(widget);
+  return found != nullptr && found->property(kOwnKeyProperty).toBool();
 }
 
 void Tell(const QString& words) {
@@ -42,7 +48,9 @@ class GuideKey : public QObject {
     if (event->type() != QEvent::KeyPress || !watched->isWidgetType()) return false;
     const auto& key = static_cast<const QKeyEvent&>(*event);
     if (key.key() != Qt::Key_F1 || key.modifiers() != Qt::NoModifier) return false;
-    if (!key.isAutoRepeat()) OpenGuide(static_cast<const QWidget*>(watched));
+    const auto* widget = static_cast<const QWidget*>(watched);
+    if (KeepsF1(widget)) return false;
+    if (!key.isAutoRepeat()) OpenGuide(widget);
     return true;
   }
 };
@@ -51,12 +59,16 @@ class GuideKey : public QObject {
 
 void SetGuidePage(QWidget& window, const char* page) { window.setProperty(kPageProperty, page); }
 
+void KeepF1(QWidget& window) { window.setProperty(kOwnKeyProperty, true); }
+
 QString GuideFile(const QString& page) {
   return QCoreApplication::applicationDirPath() + kFolder + page + ".html";
 }
 
 void OpenGuide(const QWidget* from) {
-  const QString file = GuideFile(PageOf(from));
+  const QWidget* found = WidgetWithPage(from);
+  const QString file = GuideFile(found == nullptr ? QString(kGuideTasks)
+                                                  : found->property(kPageProperty).toString());
   Guarded([&file] {
     if (!QFileInfo::exists(file)) {
       Tell("The guide is not there: it should lie in\n" + file +

@@ -26,6 +26,8 @@ inline constexpr char kGuideKeys[] = "all-keys";
 
 // The page that tells of a window, for all that is in it and for dialogs that it opens.
 void SetGuidePage(QWidget& window, const char* page);
+// The window has a use of its own for F1, and opens its page by another key.
+void KeepF1(QWidget& window);
 
 // The file of a page, whether it is there or not.
 QString GuideFile(const QString& page);

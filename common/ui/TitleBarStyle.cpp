@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <QFontMetrics>
+#include <QIcon>
+#include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOptionTitleBar>
@@ -39,6 +41,27 @@ class TitleBarStyle : public QProxyStyle {
     }
     const QStyleOptionTitleBar readable = Readable(*bar);
     QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+  }
+
+  // Those that a window which fills the frame has in the menu bar. The base has black ones alone.
+  QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
+                     const QWidget* widget) const override {
+    const QIcon usual = QProxyStyle::standardIcon(which, option, widget);
+    const bool ofWindow = which == SP_TitleBarMinButton || which == SP_TitleBarNormalButton ||
+                          which == SP_TitleBarCloseButton;
+    const QColor text = QApplication::palette().color(QPalette::WindowText);
+    const QColor back = QApplication::palette().color(QPalette::Window);
+    if (!ofWindow || ContrastOf(Qt::black, back) >= kTextContrast) return usual;
+    QIcon coloured;
+    for (const QSize& size : usual.availableSizes()) {
+      QPixmap picture = usual.pixmap(size, 1.0);
+      QPainter painter(&picture);
+      painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+      painter.fillRect(picture.rect(), text);
+      painter.end();
+      coloured.addPixmap(picture);
+    }
+    return coloured;
   }
 
  private:

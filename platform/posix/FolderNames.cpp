@@ -13,8 +13,13 @@
 
 namespace logchecker {
 
+namespace {
+
+constexpr int64_t kNanoseconds = 1'000'000'000;
+
+}  // namespace
+
 int64_t TickOfStamps() {
-  constexpr int64_t kNanoseconds = 1'000'000'000;
   timespec now{};
   clock_gettime(CLOCK_REALTIME_COARSE, &now);
   return now.tv_sec * kNanoseconds + now.tv_nsec;
@@ -34,6 +39,12 @@ bool ReadStamp(const std::string& folder, FolderStamp* stamp) {
   if (gFolderCalls.stat(folder.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode)) return false;
   *stamp = {facts.st_dev, facts.st_ino, facts.st_mtim, facts.st_ctim};
   return true;
+}
+
+// Whether a change at this moment and any later one have stamps of their own: `tick` is of a time
+// when no more changes could come with this one. A stamp in whole seconds may be a coarse one.
+bool IsPast(const timespec& stamp, int64_t tick) {
+  return stamp.tv_nsec != 0 && stamp.tv_sec * kNanoseconds + stamp.tv_nsec < tick;
 }
 
 // File systems of this machine that have each name in their listings and no other names.
@@ -81,6 +92,7 @@ void FolderNames::Add(std::string name) {
 void FolderNames::Read(const std::string& hostFolder, const FolderStamp& stamp) {
   // The time before the names are read: what changes while they are may be in them or not.
   const time_t now = gFolderCalls.time(nullptr);
+  const int64_t tick = gFolderCalls.tick();
   *this = FolderNames();
   stamp_ = stamp;
   DIR* directory = opendir(hostFolder.c_str());
@@ -94,8 +106,11 @@ void FolderNames::Read(const std::string& hostFolder, const FolderStamp& stamp) 
   listed_ = errno == 0;
   plain_ = IsOnPlainFileSystem(directory);
   closedir(directory);
-  settled_ = listed_ && stamp.modified.tv_sec + kStampSeconds < now &&
-             stamp.changed.tv_sec + kStampSeconds < now;
+  const bool isLongAgo =
+      stamp.modified.tv_sec + kStampSeconds < now && stamp.changed.tv_sec + kStampSeconds < now;
+  // The stamps of this machine's own file systems come from the clock of the ticks.
+  const bool isPast = plain_ && IsPast(stamp.modified, tick) && IsPast(stamp.changed, tick);
+  settled_ = listed_ && (isLongAgo || isPast);
 }
 
 bool FolderNames::Find(const std::string& name, std::string* found, std::string* other) const {

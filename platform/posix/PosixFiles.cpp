@@ -26,15 +26,16 @@ class OpenFile : public HostFile {
   }
 
   int32_t ReadAt(int64_t offset, void* data, size_t size, size_t* got) override {
-    *got = 0;
-    while (*got < size) {
-      const ssize_t count = pread(descriptor_, static_cast<char*>(data) + *got, size - *got,
-                                  offset + static_cast<int64_t>(*got));
+    size_t done = 0;
+    while (done < size) {
+      const ssize_t count = pread(descriptor_, static_cast<char*>(data) + done, size - done,
+                                  offset + static_cast<int64_t>(done));
       if (count < 0 && errno == EINTR) continue;
       if (count < 0) return kDeviceIoError;
       if (count == 0) break;
-      *got += static_cast<size_t>(count);
+      done += static_cast<size_t>(count);
     }
+    if (got != nullptr) *got = done;
     return kNoError;
   }
 

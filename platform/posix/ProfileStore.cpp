@@ -12,6 +12,7 @@
 #include "platform/ErrorNumbers.h"
 #include "platform/ProfileFiles.h"
 #include "platform/posix/FolderLock.h"
+#include "platform/posix/FolderNames.h"
 #include "platform/posix/Replacement.h"
 #include "platform/posix/StationPath.h"
 
@@ -27,6 +28,7 @@ constexpr time_t kStampSeconds = 2;
 struct Known {
   struct stat facts {};
   bool settled = false;
+  int64_t seenAt = 0;  // the tick at which the file was last looked at
   ProfileText text;
 };
 
@@ -62,19 +64,23 @@ bool ReadBytes(const std::string& hostPath, std::string* bytes) {
 
 }  // namespace
 
+// A settled file is looked at once a tick, as folders are: hundreds of keys are read in one go.
 const ProfileText& ReadProfile(const std::string& hostPath) {
   Known& known = KnownProfiles()[hostPath];
+  const int64_t tick = gFolderCalls.tick();
+  if (known.settled && known.seenAt == tick) return known.text;
   struct stat facts {};
-  if (stat(hostPath.c_str(), &facts) != 0) {
+  if (gFolderCalls.stat(hostPath.c_str(), &facts) != 0) {
     known = Known();
     return known.text;
   }
+  known.seenAt = tick;
   if (known.settled && Unchanged(known.facts, facts)) return known.text;
   std::string bytes;
   known.text = ReadBytes(hostPath, &bytes) ? ProfileText(bytes) : ProfileText();
   known.facts = facts;
-  known.settled = facts.st_mtim.tv_sec + kStampSeconds < std::time(nullptr) &&
-                  facts.st_ctim.tv_sec + kStampSeconds < std::time(nullptr);
+  known.settled = facts.st_mtim.tv_sec + kStampSeconds < gFolderCalls.time(nullptr) &&
+                  facts.st_ctim.tv_sec + kStampSeconds < gFolderCalls.time(nullptr);
   return known.text;
 }
 
@@ -123,7 +129,8 @@ int32_t ChangeProfile(const std::string& hostPath, const Change& change) {
   ProfileText text;
   if (!ReadForChange(hostPath, &text)) return kPathFileAccess;
   if (!change(text)) return kNoError;
-  KnownProfiles().erase(hostPath);
+  // All of them: the same file may be known by another path too.
+  KnownProfiles().clear();
   return ReplaceFile(hostPath, text.Bytes());
 }
 

@@ -30,17 +30,19 @@ HANDLE OpenShared(const std::string& path, DWORD access, DWORD disposition) {
 }
 
 int32_t WindowsFile::ReadAt(int64_t offset, void* data, size_t size, size_t* got) {
-  *got = 0;
-  while (*got < size) {
-    OVERLAPPED place = At(offset + static_cast<int64_t>(*got));
+  size_t ignored = 0;
+  size_t& done = got == nullptr ? ignored : *got;
+  done = 0;
+  while (done < size) {
+    OVERLAPPED place = At(offset + static_cast<int64_t>(done));
     DWORD count = 0;
-    if (!ReadFile(handle_, static_cast<char*>(data) + *got, TransferSize(size - *got), &count,
+    if (!ReadFile(handle_, static_cast<char*>(data) + done, TransferSize(size - done), &count,
                   &place)) {
       const DWORD code = GetLastError();
       return code == ERROR_HANDLE_EOF || code == ERROR_BROKEN_PIPE ? kNoError : LastErrorNumber();
     }
     if (count == 0) return kNoError;
-    *got += count;
+    done += count;
   }
   return kNoError;
 }

@@ -20,7 +20,9 @@ namespace logchecker {
 
 namespace {
 
-constexpr int kLeastTileWidth = 3000;  // twips, that of a split window
+// Twips, those of a split window.
+constexpr int kLeastTileWidth = 3000;
+constexpr int kLeastTileHeight = 2010;  // in whole pixels
 
 }  // namespace
 
@@ -109,8 +111,15 @@ void frmMain::TileChildren() {
   }
   ScrollToCorner();
   const QSize inner = InnerSize();
-  const std::vector<TilePlace> places = TileVertically(
-      static_cast<int>(children.size()), inner.width(), inner.height(), ToPixels(kLeastTileWidth));
+  const auto tile = [&](int width) {
+    return TileVertically(static_cast<int>(children.size()), width, inner.height(),
+                          ToPixels(kLeastTileWidth), ToPixels(kLeastTileHeight));
+  };
+  std::vector<TilePlace> places = tile(inner.width());
+  const bool reachBelow =
+      !places.empty() && places.back().top + places.back().height > inner.height();
+  // The scroll bar that they need then must not take another one across.
+  if (reachBelow) places = tile(inner.width() - area_->verticalScrollBar()->sizeHint().width());
   for (size_t i = 0; i < children.size(); ++i) {
     const TilePlace& place = places[i];
     children[i]->setGeometry(place.left, place.top, place.width, place.height);

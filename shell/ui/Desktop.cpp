@@ -17,6 +17,7 @@
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/SingleLineBoxes.h"
 #include "common/ui/StopProgram.h"
+#include "common/ui/VisibleFocus.h"
 #include "platform/StationText.h"
 #include "shell/LoadGeneralSettings.h"
 #include "shell/LoadLogs.h"
@@ -86,6 +87,7 @@ int RunDesktop(int argc, char** argv, const WriteMadeUpStation& write) {
   HoldButtonRules();
   HoldGuideKey();
   HoldCutTextTips();
+  HoldVisibleFocus();
   QtUserInterface userInterface;
   UseStopRoutine(Stop);
   int result = kEndedAtStart;

@@ -53,7 +53,7 @@ frmMain::frmMain() : area_(new QMdiArea) {
   area_->setOption(QMdiArea::DontMaximizeSubWindowOnActivation);
   area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  area_->setBackground(palette().brush(QPalette::Mid));
+  ColourArea();
   setCentralWidget(area_);
   BuildToolbar();
   BuildMenus();
@@ -222,6 +222,13 @@ void frmMain::SwitchFocus() {
     }
   }
   sftLoad_->setFocus(Qt::ShortcutFocusReason);
+}
+
+void frmMain::ColourArea() { area_->setBackground(palette().brush(QPalette::Mid)); }
+
+void frmMain::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) ColourArea();
 }
 
 void frmMain::resizeEvent(QResizeEvent* event) {

@@ -54,10 +54,12 @@ class frmMain : public QMainWindow {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   // Building the window.
+  void ColourArea();
   void BuildToolbar();
   void BuildMenus();
   void BuildStatusBar();

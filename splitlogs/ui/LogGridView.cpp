@@ -27,7 +27,7 @@ namespace {
 constexpr int kFrameWidth = 90;
 constexpr int kScrollBarWidth = 225;
 
-constexpr int kLeastCharacters = 12;  // of a description, in a large text
+constexpr int kLeastCharacters = 8;  // of a description, in a large text
 constexpr char kKeys[] =
     "Keys: Enter lines all splits up on the break, F8 and Shift+F8 go to the next and the previous "
     "mismatch, F6 to the toolbar";

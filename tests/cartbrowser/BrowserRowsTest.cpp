@@ -121,6 +121,30 @@ TEST_F(BrowserRowsTest, TextsAreCutToThePanelLessItsEdges) {
   EXPECT_EQ("", Read(7, false, 0).Caption);
 }
 
+TEST_F(BrowserRowsTest, ARowIsSpokenWithItsNumberAndItsLinesInFull) {
+  OpenStore(20);
+  PutCart(7, ThreeLines());
+  EXPECT_EQ("Cart 7, FIRST LINE, SECOND LINE, THIRD", Read(7).Spoken);
+  EXPECT_EQ("Cart 7, FIRST LINE, SECOND LINE, THIRD", Read(7, true, 620).Spoken)
+      << "nothing is cut";
+  PutCart(7, RecordOfLength(30, "ONE LINE"));
+  EXPECT_EQ("Cart 7, ONE LINE", Read(7).Spoken);
+  // A line that fills its places may run on in the next.
+  CartInfo info;
+  CartInfoFromRecord(info, ThreeLines());
+  info.Line1.fill('A');
+  EXPECT_EQ("Cart 12, " + std::string(kLineLength, 'A') + "SECOND LINE, THIRD",
+            SpokenRow(info, 12));
+}
+
+TEST_F(BrowserRowsTest, ThatACartIsNotInUseOrHasNoAudioIsSpoken) {
+  OpenStore(20);
+  EXPECT_EQ("Cart 7, not in use", Read(7).Spoken);
+  PutCart(7, RecordOfLength(0, "SILENT"));
+  EXPECT_EQ("Cart 7, SILENT, no audio", Read(7).Spoken);
+  EXPECT_EQ("", Read(21).Spoken);
+}
+
 TEST_F(BrowserRowsTest, AnUnusedCartIsAnEmptyRowInTheBlankColours) {
   OpenStore(20);
   gBlankCartInfo.BackColor = 0x00111111;

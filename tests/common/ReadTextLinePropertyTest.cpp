@@ -2,6 +2,7 @@
 #include <rapidcheck/gtest.h>
 
 #include "common/FileHelpers.h"
+#include "common/TextLines.h"
 #include "platform/Platform.h"
 #include "tests/support/TempFolder.h"
 
@@ -41,6 +42,53 @@ RC_GTEST_PROP(ReadTextLineProperty, EqualsTheReadingByCharacters, ()) {
   }
   RC_ASSERT(next == bytes.size());
   files.Close(file);
+}
+
+std::string RandomLines() {
+  std::string bytes;
+  const int lines = *rc::gen::inRange(0, 30);
+  for (int i = 0; i < lines; ++i) {
+    // As long as what is read ahead, or a little off, among short ones.
+    const auto length =
+        *rc::gen::weightedElement<size_t>({{20, 0}, {20, 70}, {2, 65535}, {2, 65536}, {1, 140000}});
+    bytes += std::string(length, 'x') + *rc::gen::element<std::string>("", "\r", "\ry", "\r\r");
+    bytes += *rc::gen::weightedElement<std::string>({{9, "\n"}, {1, ""}});
+  }
+  return bytes;
+}
+
+RC_GTEST_PROP(TextLinesProperty, EqualTheCallsOneByOne, ()) {
+  const TempFolder folder;
+  folder.WriteFile("f", RandomLines());
+  Files& files = Os().files;
+  int16_t file = 0;
+  int16_t same = 0;
+  files.FreeFile(&file);
+  files.FreeFile(&same);
+  files.OpenForInput(file, folder.Path("f"));
+  files.OpenForInput(same, folder.Path("f"));
+  int64_t position = 0;
+  {
+    TextLines lines(file);
+    const int most = *rc::gen::inRange(0, 40);
+    for (int i = 0; i < most; ++i) {
+      bool atEnd = false;
+      bool sameAtEnd = false;
+      RC_ASSERT(lines.AtEnd(&atEnd) == kNoError);
+      files.EndOfFile(same, &sameAtEnd);
+      RC_ASSERT(atEnd == sameAtEnd);
+      if (atEnd) break;
+      files.Position(same, &position);
+      RC_ASSERT(lines.Position() == position);
+      RC_ASSERT(lines.Next() == ReadTextLine(same));
+    }
+  }
+  int64_t there = 0;
+  files.Position(file, &there);
+  files.Position(same, &position);
+  RC_ASSERT(there == position);
+  files.Close(file);
+  files.Close(same);
 }
 
 }  // namespace

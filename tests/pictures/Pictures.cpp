@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -15,6 +16,7 @@
 #include <QTreeView>
 #include <cstdio>
 #include <functional>
+#include <vector>
 
 #include "cartbrowser/ui/frmCartBrowser.h"
 #include "cartbrowser/ui/frmFindCart.h"
@@ -25,6 +27,7 @@
 #include "common/GeneralSettings.h"
 #include "common/ui/QtUserInterface.h"
 #include "common/ui/StationQString.h"
+#include "common/ui/VisibleFocus.h"
 #include "dialogs/ui/frmGoodInputBox.h"
 #include "dialogs/ui/frmSelectHour.h"
 #include "notes/ui/frmPrintPreview.h"
@@ -49,6 +52,7 @@ namespace {
 constexpr int32_t kToday = 46401;
 
 constexpr QSize kSmallScreen{1024, 600};
+constexpr QSize kLargeScreen{2560, 1440};
 
 struct Look {
   const char* name;  // behind the pictures' names
@@ -87,6 +91,9 @@ void DrawMain(Painter& painter, QSize size, int splits) {
   painter.Save(window, name + "-checked");
   window.UpdateSplitInfo();
   painter.Save(window, name + "-arranged");
+  if (splits > 1) return;
+  window.findChild<QMdiSubWindow*>("frmSplit")->showMaximized();
+  painter.Save(window, name + "-maximised");
 }
 
 // As wide as the results begin, with more or less room for each split.
@@ -262,11 +269,13 @@ int Draw(const QString& folder) {
     QApplication::setPalette(look.palette);
     QApplication::setFont(look.font);
     painter.SetTheme(look.name);
-    for (const int splits : {1, 2, 4, 10}) {
+    const bool plain = look.name[0] == 0;
+    for (const int splits : plain ? std::vector{1, 2, 4, 10} : std::vector{1, 10}) {
       DrawMain(painter, {1024, 768}, splits);
-      if (look.palette == QPalette()) DrawMain(painter, {2560, 1440}, splits);
+      if (plain) DrawMain(painter, kLargeScreen, splits);
     }
     DrawMain(painter, kSmallScreen, 5);
+    if (look.font != usual) DrawMain(painter, kLargeScreen, 5);
     DrawResults(painter);
     DrawDialogs(painter);
     DrawBrowser(painter);
@@ -283,6 +292,7 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   QApplication::setStyle("Fusion");
   QApplication::setQuitOnLastWindowClosed(false);
+  logchecker::HoldVisibleFocus();
   if (argc != 2) {
     std::fprintf(stderr, "usage: %s FOLDER\n", argv[0]);
     return 2;

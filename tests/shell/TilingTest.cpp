@@ -43,6 +43,16 @@ TEST(Tiling, AnAreaTooNarrowForOneStillTakesThemAll) {
   EXPECT_TRUE(TileVertically(0, 100, 400, 200).empty());
 }
 
+TEST(Tiling, RowsAreNoLowerThanAWindowCanBe) {
+  const std::vector<TilePlace> places = TileVertically(3, 300, 100, 200, 134);
+  ASSERT_EQ(places.size(), 3U);
+  for (size_t i = 0; i < places.size(); ++i) {
+    EXPECT_EQ(places[i].top, static_cast<int>(i) * 134);
+    EXPECT_EQ(places[i].height, 134);
+  }
+  EXPECT_EQ(TileVertically(1, 300, 400, 200, 134)[0].height, 400);
+}
+
 TEST(SplitArrangement, RowsFillFromTheBottomRowUpwards) {
   SplitArrangement arrangement(10000, 9000, 4000, 3);
   const auto first = arrangement.Next(4000);

@@ -139,5 +139,26 @@ TEST_F(CartBrowserRowsTest, TheNumbersHaveRoomInAnyFont) {
   EXPECT_EQ(frame->ButtonWidth(), QFontMetrics(large).horizontalAdvance("000") * 15 + 240);
 }
 
+TEST_F(CartBrowserRowsTest, RowsGrowWithTheDesktopsText) {
+  const QFont before = QApplication::font();
+  const int usual = Button(1)->height();
+  QFont large = before;
+  large.setPointSizeF(2 * before.pointSizeF());
+  for (const bool twice : {true, false}) {
+    QApplication::setFont(twice ? large : before);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Button(1)->height() >= 1.5 * usual, twice);
+    const QFontMetrics metrics(Panel(1)->font());
+    EXPECT_GT(Panel(1)->height(), metrics.height()) << "a line fits";
+    EXPECT_GE(Button(1)->width(), metrics.horizontalAdvance("100"));
+    // Row on row, without a gap, and all of the last one.
+    for (int row = 2; row <= window->RowCount(); ++row) {
+      EXPECT_EQ(Button(row)->y(), Button(row - 1)->geometry().bottom() + 1) << row;
+    }
+    EXPECT_TRUE(Frame()->rect().contains(Panel(window->RowCount())->geometry()));
+  }
+  EXPECT_EQ(Button(1)->height(), usual);
+}
+
 }  // namespace
 }  // namespace logchecker

@@ -55,6 +55,7 @@ TEST_F(CartBrowserFormTest, HasItsCaptionsAndControls) {
 
 TEST_F(CartBrowserFormTest, EverythingHasANameAndAPlaceInTheTabOrder) {
   ExpectEverythingNamed(window.get());
+  ExpectFocusSeen(window.get());
   EXPECT_EQ(TabOrder(window.get()),
             (QStringList{"txtCartNumber", "cmdJumpCart", "cmdFindCart", "cmdBigScroll0",
                          "cmdSmallScroll0", "cmdSmallScroll1", "cmdBigScroll1", "chkDouble",

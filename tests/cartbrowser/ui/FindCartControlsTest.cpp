@@ -5,7 +5,10 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QTabWidget>
+#include <QTreeView>
 
+#include "common/ui/CompactFont.h"
+#include "common/ui/Twips.h"
 #include "tests/cartbrowser/ui/FindCartForm.h"
 #include "tests/support/ui/PaintCounter.h"
 
@@ -162,6 +165,24 @@ TEST_F(LargeFontTest, ALargeFontGetsItsRoomInBothHeights) {
   EXPECT_EQ(window->height(), needed);
   FindText("cart");
   EXPECT_EQ(window->frameGeometry().height(), 342 + needed + frame - 183);
+}
+
+TEST_F(FindCartControlsTest, TheListFollowsALargerTextWhileItIsOpen) {
+  FindText("cart");
+  auto* list = Control<QTreeView>(window.get(), "lviewItems");
+  const QFont before = QApplication::font();
+  const int usual = list->fontInfo().pixelSize();
+  QFont large = before;
+  large.setPointSizeF(2 * before.pointSizeF());
+  for (const bool twice : {true, false}) {
+    QApplication::setFont(twice ? large : before);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(list->fontInfo().pixelSize() >= 1.5 * usual, twice);
+    EXPECT_EQ(list->visualRect(list->model()->index(0, 1)).height(), CompactRowHeight());
+    EXPECT_GT(list->columnWidth(1), list->fontMetrics().horizontalAdvance("00000"));
+    EXPECT_GE(window->height(), window->layout()->minimumSize().height());
+  }
+  EXPECT_EQ(list->columnWidth(1), ToPixels(700));
 }
 
 TEST_F(FindCartControlsTest, TheSearchTextTakesOnlyCharactersOfTheCodePage) {

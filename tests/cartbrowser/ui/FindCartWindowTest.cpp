@@ -55,8 +55,10 @@ TEST_F(FindCartFormTest, HasItsCaptions) {
 
 TEST_F(FindCartFormTest, EverythingHasANameAndAPlaceInTheTabOrder) {
   ExpectEverythingNamed(window.get());
+  ExpectFocusSeen(window.get());
   FindText("cart");
   ExpectEverythingNamed(window.get());
+  ExpectFocusSeen(window.get());
   const QStringList basic = TabOrder(window.get());
   EXPECT_EQ(basic, (QStringList{"qt_tabwidget_tabbar", "cmbSearchText", "cmbSearchDirection",
                                 "chkSearchFromStart", "chkNotes", "cmdFind", "lviewItems"}))
@@ -65,6 +67,7 @@ TEST_F(FindCartFormTest, EverythingHasANameAndAPlaceInTheTabOrder) {
   The<QCheckBox>("chkLimitLines")->click();
   The<QCheckBox>("chkTimeSearch")->click();
   ExpectEverythingNamed(window.get());
+  ExpectFocusSeen(window.get());
   const QStringList advanced = TabOrder(window.get());
   EXPECT_EQ(advanced,
             (QStringList{"qt_tabwidget_tabbar", "chkLimitLines", "chkLine1", "chkLine2", "chkLine3",

@@ -346,6 +346,7 @@ TEST_F(CartLocationsTest, TabGoesFromTopToBottomAndEverythingHasAName) {
            << "cmdDone";
   EXPECT_EQ(TabOrder(dialog.get()), expected);
   ExpectEverythingNamed(dialog.get());
+  ExpectFocusSeen(dialog.get());
 }
 
 }  // namespace

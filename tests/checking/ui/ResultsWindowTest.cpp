@@ -47,6 +47,14 @@ TEST_F(ResultsTest, WithoutRowsThePanelCoversTheList) {
   EXPECT_TRUE(Part("Label1")->isVisible());
 }
 
+TEST_F(ResultsTest, TheListIsCalledByTheOutcomeForEars) {
+  Check();
+  EXPECT_EQ(List()->accessibleName(), "These ad breaks did not match in all splits:");
+  SecondSplitAsTheFirst();
+  window->CheckBreaks();
+  EXPECT_EQ(List()->accessibleName(), "There were no problems found.");
+}
+
 TEST_F(ResultsTest, ALaterCheckReusesTheWindowAndItsColumns) {
   Check();
   gGeneralSettings.NumberActiveSplits = 1;
@@ -356,6 +364,7 @@ TEST_F(ResultsTest, EverythingHasANameAndTheButtonsTheirTips) {
   EXPECT_EQ(Button("cmdSave")->accessibleName(), "Save");
   EXPECT_EQ(Button("cmdPrint")->accessibleName(), "Print");
   ExpectEverythingNamed(window);
+  ExpectFocusSeen(window);
 }
 
 }  // namespace

@@ -363,6 +363,7 @@ TEST_F(GoodInputBoxTest, EverythingHasAName) {
     box.Unload();
     Show(mode);
     ExpectEverythingNamed(&box);
+    ExpectFocusSeen(&box);
   }
 }
 

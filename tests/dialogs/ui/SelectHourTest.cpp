@@ -474,6 +474,7 @@ TEST_F(SelectHourTest, ReturnPressesTheButtonThatHasTheFocus) {
 TEST_F(SelectHourTest, EverythingHasANameAndTabGoesFromTopToBottom) {
   Open("4640200");
   ExpectEverythingNamed(&picker);
+  ExpectFocusSeen(&picker);
   EXPECT_EQ(TabOrder(&picker), QStringList({"DayScroll", "MonthList", "YearScroll", "TimeT",
                                             "txtMinutes", "OKB", "CancelB"}));
 }

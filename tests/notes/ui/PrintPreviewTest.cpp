@@ -365,6 +365,7 @@ TEST_F(PrintPreviewTest, AFolderShowsItsFilesAndTheFirstOnesText) {
 TEST_F(PrintPreviewTest, EverythingHasANameAndTheButtonsTheirLetters) {
   Open(Path("note.txt"));
   ExpectEverythingNamed(&preview);
+  ExpectFocusSeen(&preview);
   EXPECT_EQ(Control<QPushButton>(&preview, "cmdPrint")->text(), "&Print");
   EXPECT_EQ(Control<QPushButton>(&preview, "cmdSave")->text(), "&Save");
   EXPECT_EQ(Control<QPushButton>(&preview, "cmdDone")->text(), "&OK");

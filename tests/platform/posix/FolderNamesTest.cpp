@@ -45,6 +45,7 @@ class FolderNamesTest : public ::testing::Test {
   TempFolder folder;
 };
 
+// A share's stamps are often in whole seconds.
 TEST_F(FolderNamesTest, NamesOfAFolderThatChangedWithinTwoSecondsAreNotKept) {
   struct Case {
     time_t modified;
@@ -58,11 +59,34 @@ TEST_F(FolderNamesTest, NamesOfAFolderThatChangedWithinTwoSecondsAreNotKept) {
   now = 1000;
   for (const Case& row : cases) {
     FolderStamp stamp = StampOf(folder.Path());
-    stamp.modified = {row.modified, 999'999'999};
-    stamp.changed = {row.changed, 999'999'999};
+    stamp.modified = {row.modified, 0};
+    stamp.changed = {row.changed, 0};
     FolderNames names;
     names.Read(folder.Path(), stamp);
     EXPECT_EQ(row.settled, names.IsSettled()) << row.modified << " " << row.changed;
+  }
+}
+
+TEST_F(FolderNamesTest, FineStampsOfThisMachineAreSettledATickLater) {
+  struct Case {
+    timespec modified;
+    timespec changed;
+    bool settled;
+  };
+  const Case cases[] = {
+      {{1000, 4}, {1000, 4}, true},  {{1000, 5}, {1000, 4}, false}, {{1000, 4}, {1000, 5}, false},
+      {{1000, 6}, {1000, 4}, false}, {{1001, 4}, {1000, 4}, false}, {{1000, 0}, {1000, 4}, false},
+      {{1000, 4}, {1000, 0}, false},
+  };
+  now = 1000;
+  gFolderCalls.tick = [] { return int64_t{1000} * 1'000'000'000 + 5; };
+  for (const Case& row : cases) {
+    FolderStamp stamp = StampOf(folder.Path());
+    stamp.modified = row.modified;
+    stamp.changed = row.changed;
+    FolderNames names;
+    names.Read(folder.Path(), stamp);
+    EXPECT_EQ(row.settled, names.IsSettled()) << row.modified.tv_nsec << " " << row.changed.tv_nsec;
   }
 }
 

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fstream>
+#include <optional>
 
 #include "platform/Platform.h"
 #include "platform/posix/PosixProcesses.h"
@@ -200,7 +201,8 @@ TEST(Processes, AnEndlessOutputIsEnded) {
 
 TEST(Processes, AnOutputThatCannotBeKeptIsSaid) {
   const char* before = std::getenv("TMPDIR");
-  const std::string kept = before != nullptr ? before : "";
+  const std::optional<std::string> kept =
+      before != nullptr ? std::optional<std::string>(before) : std::nullopt;
   setenv("TMPDIR", "/no/such/folder", 1);
   PosixProcesses own;
   EXPECT_EQ(
@@ -208,7 +210,11 @@ TEST(Processes, AnOutputThatCannotBeKeptIsSaid) {
       "directory)",
       ReasonOf(own, "head -c 1000000 /dev/zero"));
   EXPECT_EQ("", ReasonOf(own, "echo a little"));
-  setenv("TMPDIR", kept.c_str(), 1);
+  if (kept) {
+    setenv("TMPDIR", kept->c_str(), 1);
+  } else {
+    unsetenv("TMPDIR");
+  }
 }
 
 TEST(Processes, ProcessorsAreThoseThatThisProgramMayUse) {

@@ -8,7 +8,6 @@
 
 #include "printing/ui/PrinterChoice.h"
 #include "tests/support/ui/PrintedFile.h"
-#include "tests/support/ui/posix/PrintQueue.h"
 
 namespace logchecker {
 namespace {

@@ -1,6 +1,7 @@
 // The main window on a desktop of several screens: a large one, a small one, and one of twice as
 // fine a grain. The toolkit's platform takes them from a file.
 #include <QScreen>
+#include <QScrollBar>
 #include <QTableView>
 #include <QWindow>
 
@@ -70,6 +71,19 @@ TEST_F(ScreensTest, OnASmallerScreenItIsMadeToFit) {
   main->showMaximized();
   GoTo("large");
   EXPECT_TRUE(main->isMaximized());
+}
+
+TEST_F(ScreensTest, InTooSmallAFrameTheSplitsNeedOneScrollBarAndNotTwo) {
+  SetNumberOfSplits(5);
+  ASSERT_TRUE(Start());
+  main->resize(512, 300);
+  QCoreApplication::processEvents();
+  main->TileChildren();
+  EXPECT_TRUE(Area()->verticalScrollBar()->isVisible());
+  EXPECT_FALSE(Area()->horizontalScrollBar()->isVisible());
+  for (int16_t n = 2; n <= 5; ++n) {
+    EXPECT_FALSE(Window(n).geometry().intersects(Window(static_cast<int16_t>(n - 1)).geometry()));
+  }
 }
 
 TEST_F(ScreensTest, AFinerScreenChangesNoLogicalSize) {

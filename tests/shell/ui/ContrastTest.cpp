@@ -1,5 +1,6 @@
 // That what is drawn can be told from what it is drawn on, computed from pictures of the windows in
 // the colours of a light and of a dark desktop.
+#include <QMenuBar>
 #include <QScrollBar>
 #include <QStyleOptionTitleBar>
 #include <QTableView>
@@ -107,6 +108,27 @@ TEST_P(ContrastTest, TitleBarsOfChildWindows) {
   Area()->setActiveSubWindow(&Window(1));
   ExpectReadableBar(Window(1));
   for (const int16_t inactive : {2, 3}) ExpectReadableBar(Window(inactive));
+}
+
+TEST_P(ContrastTest, TheButtonsOfAWindowThatFillsTheFrame) {
+  Window(2).showMaximized();
+  QCoreApplication::processEvents();
+  QWidget* buttons = main->menuBar()->cornerWidget();
+  ASSERT_NE(buttons, nullptr);
+  const int width = buttons->width() / 3;
+  for (int i = 0; i < 3; ++i) {
+    const QRect button(i * width, 0, width, buttons->height());
+    EXPECT_GE(ContrastIn(PictureOf(*buttons, button.adjusted(4, 4, -4, -4))), kPicture) << i;
+  }
+}
+
+TEST_P(ContrastTest, ColoursThatChangeWhileTheProgramRuns) {
+  QApplication::setPalette(GetParam() == 1 ? QPalette() : DarkPalette());
+  QCoreApplication::processEvents();
+  ExpectReadableBar(Window(2));
+  for (int16_t n = 1; n <= 3; ++n) Window(n).hide();
+  EXPECT_EQ(MostFrequent(PictureOf(*Area()->viewport(), Area()->viewport()->rect())),
+            QApplication::palette().color(QPalette::Mid).rgb());
 }
 
 TEST_P(ContrastTest, CellsOfTheGridSelectedOrNot) {

@@ -207,6 +207,7 @@ TEST_F(GeneralSettingsTest, TabGoesFromTopToBottomAndEverythingHasAName) {
             QStringList({"txtNumberSplits", "txtSecondsDifference", "chkDisplayCheckHH",
                          "chkDisplayBreakHH", "chkDisplayAdvertHH", "cmdOK", "cmdCancel"}));
   ExpectEverythingNamed(dialog.get());
+  ExpectFocusSeen(dialog.get());
   EXPECT_TRUE(Control<QPushButton>(dialog.get(), "cmdOK")->isDefault());
 }
 

@@ -302,6 +302,7 @@ TEST_F(MainWindowTest, EverythingHasANameForThoseWhoCantSeeIt) {
   ASSERT_TRUE(Start());
   Press("sftCheckBreaks");
   ExpectEverythingNamed(main.get());
+  ExpectFocusSeen(main.get());
 }
 
 TEST_F(MainWindowTest, ManySplitsAndHostileNamesHarmNothing) {

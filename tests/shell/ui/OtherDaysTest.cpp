@@ -51,6 +51,12 @@ TEST_F(OtherDaysTest, ListsSeveralAndEndsInDotsWhereTheFrameIsNarrow) {
   EXPECT_TRUE(Panel()->toolTip().contains(Long(kTomorrow + 1)));
 }
 
+TEST_F(OtherDaysTest, IsDescribedWithoutMarks) {
+  ASSERT_TRUE(Start());
+  main->LoadLogs(kTomorrow + 2);
+  EXPECT_EQ(Panel()->accessibleDescription(), "There is no log of " + Long(kTomorrow + 2));
+}
+
 TEST_F(OtherDaysTest, GoesWithTheSplitThatIsTakenAway) {
   ASSERT_TRUE(Start());
   WriteLog(1, kTomorrow + 1, Log("08:00"));

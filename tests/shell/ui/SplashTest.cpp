@@ -1,3 +1,4 @@
+#include <QAccessible>
 #include <QImage>
 #include <QLabel>
 #include <QPointer>
@@ -135,6 +136,7 @@ TEST_F(AboutTest, AboutStaysUntilOkIsPressedAndIsNotModal) {
     EXPECT_FALSE(about->isModal());
     EXPECT_EQ(Control<QLabel>(about, "lblCurrentAction")->text(), "");
     ExpectEverythingNamed(about);
+    ExpectFocusSeen(about);
     auto* ok = Control<QPushButton>(about, "cmdOK");
     EXPECT_TRUE(ok->isVisible());
     EXPECT_EQ(ok->text(), "OK");
@@ -142,6 +144,15 @@ TEST_F(AboutTest, AboutStaysUntilOkIsPressedAndIsNotModal) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(about.isNull());
   }
+}
+
+TEST_F(AboutTest, AboutIsADialogForEars) {
+  ASSERT_TRUE(Start());
+  Entry("mnuAbout")->trigger();
+  auto* about = main->findChild<frmSplash*>();
+  ASSERT_NE(about, nullptr);
+  EXPECT_EQ(QAccessible::queryAccessibleInterface(about)->role(), QAccessible::Dialog);
+  Control<QPushButton>(about, "cmdOK")->click();
 }
 
 }  // namespace

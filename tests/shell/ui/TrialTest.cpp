@@ -2,6 +2,7 @@
 #include "shell/ui/Trial.h"
 
 #include <QDir>
+#include <filesystem>
 
 #include "common/ErrorState.h"
 #include "common/Registry.h"
@@ -17,7 +18,7 @@ namespace {
 class TrialTest : public WindowTest {
  protected:
   TrialTest() {
-    folder().WriteFile("temporary/file", "");
+    std::filesystem::create_directory(folder().Path("temporary"));
     SetTemporary("temporary");
   }
   ~TrialTest() override {
@@ -92,7 +93,8 @@ TEST_F(TrialTest, AStationThatCantBeWrittenIsToldWithWhatToDo) {
 }
 
 TEST_F(TrialTest, WithoutAFolderForTemporaryFilesNothingIsWritten) {
-  SetTemporary("temporary/file");
+  folder().WriteFile("file", "");
+  SetTemporary("file");
   RecordingUi told;
   Trial trial;
   EXPECT_FALSE(trial.Begin([](const std::string&) { ADD_FAILURE(); }));

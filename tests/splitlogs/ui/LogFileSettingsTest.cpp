@@ -342,6 +342,7 @@ TEST_F(LogFileSettingsTest, TabGoesFromTopToBottomAndEverythingHasAName) {
                          "chkSuffix", "txtFormat", "txtFileExtension", "txtReconcileFileExtension",
                          "txtLogTXChainCode", "cmdOK", "cmdCancel"}));
   ExpectEverythingNamed(dialog.get());
+  ExpectFocusSeen(dialog.get());
   EXPECT_TRUE(Control<QPushButton>(dialog.get(), "cmdOK")->isDefault());
 }
 

@@ -3,6 +3,7 @@
 #include <QMdiArea>
 #include <QToolTip>
 
+#include "common/ui/Contrast.h"
 #include "common/ui/StationQString.h"
 #include "splitlogs/LogWords.h"
 #include "splitlogs/SplitLogTable.h"
@@ -87,11 +88,15 @@ TEST_F(SplitTellsTest, ItsButtonsAndTheRestOfTheWindowKeepTheirOwn) {
 
 TEST_F(SplitTellsTest, ABreakThatStandsInIsHollowAndSaysSo) {
   const QColor highlight = View().palette().color(QPalette::Active, QPalette::Highlight);
-  const QColor inactive = View().palette().color(QPalette::Inactive, QPalette::Highlight);
   const auto filled = [&](int row) {
     const QImage cell = Picture(row);
     const QColor inner = cell.pixelColor(cell.width() - 3, cell.height() / 2);
-    return inner == highlight || inner == inactive;
+    const auto fill = [&](QPalette::ColorGroup group) {
+      const QPalette& colours = View().palette();
+      return ReadableUnder(colours.color(group, QPalette::HighlightedText),
+                           colours.color(group, QPalette::Highlight));
+    };
+    return inner == fill(QPalette::Active) || inner == fill(QPalette::Inactive);
   };
   gSplits(1).SelectBreakByTime(7 * 3600 + 1800);
   EXPECT_TRUE(filled(4));

@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileDialog>
 
+#include "common/ui/VisibleFocus.h"
 #include "printing/ui/PrinterChoice.h"
 
 namespace logchecker {
@@ -120,15 +121,53 @@ void ExpectEverythingNamed(QWidget* window) {
   ExpectNamed(top, 0);
 }
 
-QStringList TabOrder(QWidget* window) {
-  QStringList order;
+namespace {
+
+std::vector<QWidget*> ControlsInTabOrder(QWidget* window) {
+  std::vector<QWidget*> order;
   for (QWidget* next = window->nextInFocusChain(); next != nullptr && next != window;
        next = next->nextInFocusChain()) {
     const bool reached = (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled() &&
                          next->isVisibleTo(window) && next->focusProxy() == nullptr;
-    if (reached && !next->objectName().isEmpty()) order.push_back(next->objectName());
+    if (reached && !next->objectName().isEmpty()) order.push_back(next);
   }
   return order;
+}
+
+}  // namespace
+
+QStringList TabOrder(QWidget* window) {
+  QStringList order;
+  for (const QWidget* control : ControlsInTabOrder(window)) order.push_back(control->objectName());
+  return order;
+}
+
+void ExpectFocusSeen(QWidget* window) {
+  // For the whole run: a program holds it once too.
+  static const bool held = (HoldVisibleFocus(), true);
+  Q_UNUSED(held);
+  QApplication::setActiveWindow(window->window());
+  const auto look = [window] {
+    QApplication::processEvents();
+    return window->grab().toImage();
+  };
+  // Shows nothing, and has the focus meanwhile.
+  QWidget elsewhere(window->window());
+  elsewhere.setGeometry(0, 0, 1, 1);
+  elsewhere.setFocusPolicy(Qt::ClickFocus);
+  elsewhere.show();
+  elsewhere.setFocus(Qt::OtherFocusReason);
+  int seen = 0;
+  for (QWidget* control : ControlsInTabOrder(window)) {
+    control->setFocus(Qt::OtherFocusReason);
+    // A window inside the window hands it on.
+    if (!control->hasFocus()) continue;
+    const QImage with = look();
+    elsewhere.setFocus(Qt::OtherFocusReason);
+    EXPECT_TRUE(with != look()) << qPrintable(control->objectName()) << " does not show the focus";
+    ++seen;
+  }
+  EXPECT_GT(seen, 0);
 }
 
 }  // namespace logchecker

@@ -81,6 +81,10 @@ bool CloseByUser(QWidget* window);
 // see it.
 void ExpectEverythingNamed(QWidget* window);
 
+// Fails for each control in the window that can have the focus by Tab and looks the same with it as
+// without.
+void ExpectFocusSeen(QWidget* window);
+
 // The order in which Tab goes through a window from its first control on, by object name.
 QStringList TabOrder(QWidget* window);
 
