@@ -32,6 +32,8 @@ class TrialTest : public WindowTest {
 
   void SetTemporary(const std::string& name) {
     qputenv(kVariable, QByteArray::fromStdString(ToHostPath(folder().Path(name))));
+    ASSERT_EQ(QDir(QDir::tempPath()),
+              QDir(QString::fromStdString(ToHostPath(folder().Path(name)))));
   }
   // The folders of trials that there are.
   static QStringList Folders() {
@@ -41,7 +43,8 @@ class TrialTest : public WindowTest {
     return QDir(QString::fromStdString(ToHostPath(Os().system.WindowsFolder())));
   }
 
-  static constexpr char kVariable[] = "TMPDIR";
+  // Which of the two is read is the system's way.
+  static inline const char* const kVariable = QDir::separator() == '/' ? "TMPDIR" : "TMP";
 
   Platform& before_ = Os();
   QByteArray temporary_ = qgetenv(kVariable);
