@@ -56,6 +56,7 @@ TEST_F(TrialTest, HasASettingsFolderOfItsOwnThatGoesWithAllThatIsInIt) {
     Trial trial;
     ASSERT_TRUE(trial.Begin([](const std::string& into) {
       EXPECT_EQ(into, Os().system.WindowsFolder());
+      Os().directories.MakeDirectory(into);
       Os().profiles.WriteString("General", "SplitName1", "Tried", into + "\\VELKLT.INI");
     }));
     folder = WindowsFolder().absolutePath();
