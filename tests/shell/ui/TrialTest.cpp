@@ -88,9 +88,9 @@ TEST_F(TrialTest, AStationThatCantBeWrittenIsToldWithWhatToDo) {
     ASSERT_EQ(told.messages.size(), 1U);
     const std::string& text = told.messages[0].text;
     EXPECT_NE(text.find("disk full"), std::string::npos) << text;
-    EXPECT_NE(
-        text.find("Make room in the folder for temporary files, " + QDir::tempPath().toStdString()),
-        std::string::npos)
+    EXPECT_NE(text.find("Make room in the folder for temporary files, " +
+                        QDir::toNativeSeparators(QDir::tempPath()).toStdString()),
+              std::string::npos)
         << text;
   }
   EXPECT_EQ(Folders(), QStringList());
