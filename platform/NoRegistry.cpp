@@ -1,5 +1,7 @@
 #include "platform/NoRegistry.h"
 
+#include <memory>
+
 namespace logchecker {
 
 namespace {
@@ -28,9 +30,10 @@ class NoRegistry : public RegistryCalls {
 void UseNoRegistry() {
   static NoRegistry registry;
   const Platform& os = Os();
-  static Platform without = {os.files, os.directories, os.shell,  os.profiles, registry,
-                             os.clock, os.waveDevices, os.system, os.processes};
-  UsePlatform(without);
+  static std::unique_ptr<Platform> without;
+  without.reset(new Platform{os.files, os.directories, os.shell, os.profiles, registry, os.clock,
+                             os.waveDevices, os.system, os.processes});
+  UsePlatform(*without);
 }
 
 }  // namespace logchecker

@@ -1,4 +1,5 @@
-// The system's own header, without the parts that clash with the standard library.
+// The system's own header, without the parts that clash with the standard library or
+// with our own names.
 #pragma once
 
 #ifndef NOMINMAX
@@ -8,3 +9,6 @@
 #define WIN32_LEAN_AND_MEAN
 #endif
 #include <windows.h>
+
+// What is left of calls that once were.
+#undef Yield

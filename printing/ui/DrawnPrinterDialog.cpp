@@ -9,6 +9,7 @@
 #include <QStandardPaths>
 #include <algorithm>
 
+#include "common/ui/Guide.h"
 #include "printing/ui/PaperDialog.h"
 #include "ui_frmPrinter.h"
 
@@ -25,6 +26,7 @@ DrawnPrinterDialog::DrawnPrinterDialog(QPrinter* printer, const PrinterQuestion&
     : QAbstractPrintDialog(printer, owner), ui_(std::make_unique<Ui::frmPrinter>()) {
   ui_->setupUi(this);
   setWindowTitle(question.title);
+  SetGuidePage(*this, kGuideSaveAndPrint);
   const QDir documents(QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation));
   ui_->filename->setText(QDir::toNativeSeparators(documents.filePath("print.pdf")));
   ListPrinters();

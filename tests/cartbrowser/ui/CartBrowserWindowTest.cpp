@@ -13,7 +13,7 @@
 #include "cartstore/Velmar_Cart_Routines.h"
 #include "common/ui/SystemColours.h"
 #include "tests/cartbrowser/ui/BrowserWindow.h"
-#include "tests/support/ui/CancelDrag.h"
+#include "tests/support/ui/Dragging.h"
 
 namespace logchecker {
 namespace {
@@ -329,6 +329,7 @@ TEST_F(CartBrowserFormTest, ARowWithAudioCanBeDraggedWhereThatIsAllowed) {
       QApplication::sendEvent(Panel(c.row), &event);
     };
     send(QEvent::MouseButtonPress, start, c.button);
+    if (*c.carried != '\0') MoveAlong();
     send(QEvent::MouseMove, end, c.button);
     QApplication::processEvents();
     send(QEvent::MouseButtonRelease, end, {});

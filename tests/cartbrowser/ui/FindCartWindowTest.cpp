@@ -13,6 +13,7 @@
 #include "common/SystemHelpers.h"
 #include "common/ui/Icons.h"
 #include "tests/cartbrowser/ui/FindCartForm.h"
+#include "tests/support/ui/Dragging.h"
 
 namespace logchecker {
 namespace {
@@ -444,7 +445,7 @@ TEST_F(FindCartFormTest, ADragOfARowCarriesItsNumberUnderThePictureOfACart) {
     for (const auto* drag : List()->findChildren<QDrag*>()) {
       carried = drag->mimeData()->text();
       shown = drag->pixmap().toImage();
-      QDrag::cancel();
+      CancelDrag();
     }
   });
   const auto send = [&](QEvent::Type type, QPointF at) {
@@ -457,6 +458,7 @@ TEST_F(FindCartFormTest, ADragOfARowCarriesItsNumberUnderThePictureOfACart) {
   send(QEvent::MouseButtonPress, start);
   send(QEvent::MouseMove, start + QPointF(1, 0));
   EXPECT_EQ(List()->Tag, "") << "15 twips are not enough";
+  MoveAlong();
   send(QEvent::MouseMove, start + QPointF(3, 0));
   EXPECT_EQ(List()->Tag, "50");
   QApplication::processEvents();

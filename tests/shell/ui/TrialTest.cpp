@@ -32,6 +32,8 @@ class TrialTest : public WindowTest {
 
   void SetTemporary(const std::string& name) {
     qputenv(kVariable, QByteArray::fromStdString(ToHostPath(folder().Path(name))));
+    ASSERT_EQ(QDir(QDir::tempPath()),
+              QDir(QString::fromStdString(ToHostPath(folder().Path(name)))));
   }
   // The folders of trials that there are.
   static QStringList Folders() {
@@ -41,7 +43,8 @@ class TrialTest : public WindowTest {
     return QDir(QString::fromStdString(ToHostPath(Os().system.WindowsFolder())));
   }
 
-  static constexpr char kVariable[] = "TMPDIR";
+  // Which of the two is read is the system's way.
+  static inline const char* const kVariable = QDir::separator() == '/' ? "TMPDIR" : "TMP";
 
   Platform& before_ = Os();
   QByteArray temporary_ = qgetenv(kVariable);
@@ -53,6 +56,7 @@ TEST_F(TrialTest, HasASettingsFolderOfItsOwnThatGoesWithAllThatIsInIt) {
     Trial trial;
     ASSERT_TRUE(trial.Begin([](const std::string& into) {
       EXPECT_EQ(into, Os().system.WindowsFolder());
+      Os().directories.MakeDirectory(into);
       Os().profiles.WriteString("General", "SplitName1", "Tried", into + "\\VELKLT.INI");
     }));
     folder = WindowsFolder().absolutePath();
@@ -84,9 +88,9 @@ TEST_F(TrialTest, AStationThatCantBeWrittenIsToldWithWhatToDo) {
     ASSERT_EQ(told.messages.size(), 1U);
     const std::string& text = told.messages[0].text;
     EXPECT_NE(text.find("disk full"), std::string::npos) << text;
-    EXPECT_NE(
-        text.find("Make room in the folder for temporary files, " + QDir::tempPath().toStdString()),
-        std::string::npos)
+    EXPECT_NE(text.find("Make room in the folder for temporary files, " +
+                        QDir::toNativeSeparators(QDir::tempPath()).toStdString()),
+              std::string::npos)
         << text;
   }
   EXPECT_EQ(Folders(), QStringList());

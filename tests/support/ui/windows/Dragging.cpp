@@ -1,10 +1,12 @@
-#include "tests/support/ui/CancelDrag.h"
+#include "tests/support/ui/Dragging.h"
 
 #include <QDrag>
 
 #include "platform/windows/WindowsApi.h"
 
 namespace logchecker {
+
+void MoveAlong() { PostMessageW(GetFocus(), WM_MOUSEMOVE, MK_LBUTTON, 0); }
 
 // The system asks whether to go on whenever the pointer moves.
 void CancelDrag() {

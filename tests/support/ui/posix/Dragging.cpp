@@ -1,8 +1,10 @@
-#include "tests/support/ui/CancelDrag.h"
+#include "tests/support/ui/Dragging.h"
 
 #include <QDrag>
 
 namespace logchecker {
+
+void MoveAlong() {}
 
 void CancelDrag() { QDrag::cancel(); }
 
