@@ -90,11 +90,15 @@ if [ ! -f "$build/build.ninja" ]; then
   }
 fi
 
-# A line for each hundred steps.
-NINJA_STATUS='[%f/%t] ' ninja -C "$build" 2>&1 | awk '
-  /^\[[0-9]+\/[0-9]+\]/ { split(substr($1, 2), step, "/"); if (step[1] % 100 == 0) print $1 " Qt for Windows"; fflush() }
-  /error|FAILED|ninja: build stopped/ { print; fflush() }' >&2
+# A line for each fifty steps, with the seconds so far.
+NINJA_STATUS='[%f/%t %e] ' ninja -C "$build" 2>&1 | awk '
+  /^\[[0-9]+\/[0-9]+ / { split(substr($1, 2), step, "/"); if (step[1] % 50 == 0) { print $1, $2, "Qt for Windows"; fflush() } }
+  /error:|^FAILED|^ninja: / { print; fflush() }' >&2
 cmake --install "$build" >"$folder/install.log"
-rm -rf "$build" "$folder/apt"
+find "$folder/bin" "$folder/plugins" -name '*.dll' -exec x86_64-w64-mingw32-strip --strip-unneeded {} +
+# The licence wants the sources to be had with the DLLs: those of the package, as they were fetched.
+mkdir -p "$folder/sources"
+mv "$folder"/apt/qt6-base_* "$folder/sources"
+rm -rf "$build" "$folder/apt" "$folder/source" "$folder"/qt6-base_*
 touch "$folder/complete"
 echo "$folder"

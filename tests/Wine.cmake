@@ -9,6 +9,12 @@ set(wine_environment "HOME=${wine_home}" "XDG_CONFIG_HOME=${wine_home}" "XDG_DAT
   "WINEDEBUG=-all" "WINEDLLOVERRIDES=winemenubuilder.exe,mscoree,mshtml=" "LC_ALL=C.UTF-8"
   "CUPS_SERVER=/nowhere")
 
+# What can't hold under Wine alone, for docs/windows.md to say why.
+set(wine_leaves_out AsTheGuideSays/PrintedResultsTest.AllOfItIsOnThePage/2
+  AsTheGuideSays/PrintedResultsTest.AllOfItIsOnThePage/3)
+list(JOIN wine_leaves_out ":" wine_leaves_out)
+list(APPEND wine_environment "GTEST_FILTER=-${wine_leaves_out}")
+
 # run_on_wine_machine(TEST MACHINE [VARIABLE=VALUE...]): one test at a time on a machine, since they share its
 # registry. There are two machines, so that two processors have work.
 function(run_on_wine_machine test machine)
