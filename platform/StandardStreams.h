@@ -12,8 +12,8 @@ namespace logchecker {
 // end.
 void HoldStandardStreams();
 
-// Called before it by a program with windows. Where the system gives such a program no console, what
-// it writes goes to that of the program which started it, unless it was given streams.
+// Called before it by a program with windows. Where the system gives such a program no console,
+// what it writes goes to that of the program which started it, unless it was given streams.
 void JoinConsole();
 
 // Writes bytes as they are, with no change of line ends. False when not all could be written.

@@ -108,8 +108,7 @@ TEST_F(StationsProcessesTest, OneThatHangsAndOneThatCrashesAreNoOthersTrouble) {
             list[0]["days"][399]["trouble"]);
   EXPECT_EQ(1, list[1]["days"][0]["code"]);
   EXPECT_FALSE(list[1]["days"][0].contains("trouble"));
-  EXPECT_EQ("the check of the station was ended by signal 6 (ABRT)",
-            list[2]["days"][0]["trouble"]);
+  EXPECT_EQ("the check of the station was ended by signal 6 (ABRT)", list[2]["days"][0]["trouble"]);
   EXPECT_EQ(2, list[2]["days"][0]["code"]);
   const std::string errors = folder_.ReadFile("errors");
   EXPECT_NE(std::string::npos, errors.find("logcheck: " + Named("Crashes") +
