@@ -8,24 +8,25 @@ set -euo pipefail
 cd "$(dirname "$0")"
 . scripts/tools.sh
 
+# run_tests PRESET JOBS
 run_tests() {
   build "$1"
-  # Many of them wait for something most of their time.
-  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$(($(nproc) * 2))"
+  ctest --test-dir "build/$1" --output-on-failure --no-tests=error -j "$2"
 }
 
 case "${1:-}" in
   "")
     need "${test_packages[@]}"
-    run_tests debug
+    # Many of them wait for something most of their time.
+    run_tests debug "$(($(nproc) * 2))"
     ;;
   --windows)
     need "${windows_packages[@]}"
-    run_tests windows
+    run_tests windows "$(nproc)"
     ;;
   --sanitize)
     need "${test_packages[@]}"
-    run_tests asan
+    run_tests asan "$(nproc)"
     ;;
   --pages)
     need_page_tools

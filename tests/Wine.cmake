@@ -18,7 +18,7 @@ list(APPEND wine_environment "GTEST_FILTER=-${wine_leaves_out}")
 # run_on_wine_machine(TEST MACHINE [VARIABLE=VALUE...]): one test at a time on a machine, since they share its
 # registry. There are two machines, so that two processors have work.
 function(run_on_wine_machine test machine)
-  set_tests_properties(${test} PROPERTIES RESOURCE_LOCK ${machine} TIMEOUT 300
+  set_tests_properties(${test} PROPERTIES RESOURCE_LOCK ${machine} TIMEOUT 900
     ENVIRONMENT "${wine_environment};WINEPREFIX=${PROJECT_BINARY_DIR}/${machine};${ARGN}")
 endfunction()
 
