@@ -28,6 +28,7 @@ class TimeDisplay {
   static TimeDisplay OfTime(double seconds, int32_t mask);
   static TimeDisplay OfLength(float seconds, int32_t mask);
 
+  // It is a text.  NOLINTNEXTLINE(google-explicit-constructor)
   operator std::string_view() const { return {text_.data(), size_}; }
 
  private:

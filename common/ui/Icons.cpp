@@ -31,7 +31,7 @@ class DrawnEngine : public QIconEngine {
 
   QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State) override {
     constexpr double kFaded = 0.35;
-    const QPixmap drawn = Drawn(size);
+    QPixmap drawn = Drawn(size);
     if (mode != QIcon::Disabled || drawn.isNull()) return drawn;
     QPixmap faded(drawn.size());
     faded.fill(Qt::transparent);
@@ -49,7 +49,7 @@ class DrawnEngine : public QIconEngine {
     const int side = std::max(size.width(), size.height());
     const auto found = std::lower_bound(sizes_.begin(), sizes_.end(), side);
     const int drawn = found == sizes_.end() ? sizes_.back() : *found;
-    const QPixmap picture(QString("%1/%2.png").arg(folder_).arg(drawn));
+    QPixmap picture(QString("%1/%2.png").arg(folder_).arg(drawn));
     if (picture.size() == size) return picture;
     return picture.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
   }

@@ -46,7 +46,7 @@ class TitleBarStyle : public QProxyStyle {
   // Those that a window which fills the frame has in the menu bar. The base has black ones alone.
   QIcon standardIcon(StandardPixmap which, const QStyleOption* option,
                      const QWidget* widget) const override {
-    const QIcon usual = QProxyStyle::standardIcon(which, option, widget);
+    QIcon usual = QProxyStyle::standardIcon(which, option, widget);
     const bool ofWindow = which == SP_TitleBarMinButton || which == SP_TitleBarNormalButton ||
                           which == SP_TitleBarCloseButton;
     const QColor text = QApplication::palette().color(QPalette::WindowText);
