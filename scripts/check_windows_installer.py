@@ -29,7 +29,7 @@ INSTALLED = {
 PLUGINS = {"imageformats/qjpeg.dll", "platforms/qwindows.dll", "styles/qwindowsvistastyle.dll"}
 # What every Windows 10 has.
 SYSTEM = set("""advapi32 api-ms-win-core-synch-l1-2-0 api-ms-win-core-winrt-l1-1-0
-    api-ms-win-core-winrt-string-l1-1-0 authz comctl32 comdlg32 d2d1 d3d11 d3d9 dwmapi dwrite dxgi gdi32 imm32
+    api-ms-win-core-winrt-string-l1-1-0 authz avifil32 comctl32 comdlg32 d2d1 d3d11 d3d9 dwmapi dwrite dxgi gdi32 imm32
     kernel32 mpr msvcrt netapi32 ole32 oleaut32 shcore shell32 shlwapi user32 userenv uxtheme version winmm
     winspool.drv ws2_32 wtsapi32""".split())
 IN_USE = 3
