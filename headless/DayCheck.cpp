@@ -11,7 +11,6 @@
 #include "common/ErrorState.h"
 #include "common/FileHelpers.h"
 #include "common/GeneralSettings.h"
-#include "common/Numbers.h"
 #include "common/PathText.h"
 #include "common/TextHelpers.h"
 #include "headless/PassedOverBreaks.h"

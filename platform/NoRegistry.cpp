@@ -2,6 +2,8 @@
 
 #include <memory>
 
+#include "platform/Platform.h"
+
 namespace logchecker {
 
 namespace {

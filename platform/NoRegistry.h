@@ -1,8 +1,6 @@
 // A registry that holds nothing and takes nothing.
 #pragma once
 
-#include "platform/Platform.h"
-
 namespace logchecker {
 
 // Puts one in the place of the system's for the rest of the run: what reads has its defaults, and

@@ -1,7 +1,6 @@
 // The lines of an advert log. Either form of a line may be passed to any reader.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>

@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "common/TimeText.h"
+
 namespace logchecker {
 
 void GridCell::MakeText(TextPool& pool) {

@@ -7,7 +7,6 @@
 #include <optional>
 #include <string_view>
 
-#include "common/TimeText.h"
 #include "splitlogs/TextPool.h"
 
 namespace logchecker {
